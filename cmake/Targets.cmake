@@ -1,0 +1,40 @@
+# What all our targets have in common, so that it is said once.
+
+find_program(PHYSICS_CCACHE ccache)
+mark_as_advanced(PHYSICS_CCACHE)
+
+# Settings of one target of ours; nothing global, so that a project which includes us keeps its own.
+function(physics_target target)
+  target_compile_features(${target} PUBLIC cxx_std_17 PRIVATE cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  if(PROJECT_IS_TOP_LEVEL)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    if(PHYSICS_CCACHE)
+      set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER ${PHYSICS_CCACHE})
+    endif()
+  endif()
+  if(PHYSICS_WARNINGS_AS_ERRORS)
+    set_target_properties(${target} PROPERTIES COMPILE_WARNING_AS_ERROR ON)
+  endif()
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+endfunction()
+
+# A library of ours twice from one compilation: `<name>-objects`, which tests link because it hides
+# nothing from them, and the versioned shared library `<name>`, which everybody else links.
+function(physics_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE")
+  add_library(${name}-objects OBJECT ${arg_SOURCES})
+  physics_target(${name}-objects)
+  target_link_libraries(${name}-objects PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+
+  add_library(${name} SHARED)
+  physics_target(${name})
+  set_target_properties(${name} PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${name}-objects ${arg_PRIVATE})
+endfunction()

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "gtm/Export.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace gtm {
+
+class FaceUse;
+class Interior;
+class Location;
+class Region;
+
+/// A named set of face uses of one interior: where a boundary lies. Owned by its interior.
+class GTM_EXPORT Boundary {
+public:
+    enum class State : std::int32_t {
+        Valid = 0,
+        Empty = 1,
+        Unresolvable = 2,
+        Incomplete = 10,
+        Inconsistent = 11,
+        Overlapping = 12,
+    };
+
+    Boundary(const Boundary&) = delete;
+    Boundary& operator=(const Boundary&) = delete;
+
+    /// The text of a state for messages; its wording belongs to the location model.
+    static std::string stateAsString(State state);
+
+    std::string name() const;
+
+    /// Asks for a new name and returns the name that the boundary has afterwards.
+    std::string rename(const std::string& name);
+
+    Interior* interior() const;
+
+    /// Where the boundary lies; may be null for a default boundary.
+    const Location* location() const;
+    bool isDefaultBoundary() const;
+
+    /// The face uses that the boundary stands for now, in the order of the topology.
+    std::vector<FaceUse*> faceUses() const;
+
+    /// The other boundaries of the same interior that share a face use with this one, each once.
+    std::vector<Boundary*> overlappingBoundaries() const;
+
+    /// The face uses shared with `other`; empty when `other` is null.
+    std::vector<FaceUse*> overlap(const Boundary* other) const;
+
+    /// The terms of the location that name nothing; empty when all are found.
+    std::vector<std::string> unresolvableNames() const;
+
+    /// True when the boundary has face uses and all lie on internal faces of its interior.
+    bool isInternal() const;
+
+    /// The boundary made of exactly the partners of this boundary's face uses, or null.
+    Boundary* pair() const;
+
+    State state() const;
+
+    /// Moves the boundary. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
+    State relocate(const std::string& location, bool enforceRestrictions);
+    State relocate(const std::vector<Region*>& regions, bool enforceRestrictions);
+
+    /// Takes regions out of the location; true when that changed it.
+    bool remove(const std::vector<Region*>& regions);
+
+    /// Ends the boundary and every interface that uses it.
+    void destroy();
+
+protected:
+    Boundary() = default;
+    ~Boundary() = default;
+};
+
+} // namespace gtm

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "gtm/Export.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "gtm/Boundary.h"
+
+namespace gtm {
+
+class Body;
+class Face;
+class FaceUse;
+class Location;
+class Region;
+class VirtualTopology;
+
+/// A named set of bodies: where a volume lies. Owned by its `VirtualTopology`.
+class GTM_EXPORT Interior {
+public:
+    enum class State : std::int32_t {
+        Valid = 0,
+        Empty = 1,
+        Unresolvable = 2,
+        Incomplete = 10,
+        Inconsistent = 11,
+        Overlapping = 12,
+    };
+
+    Interior(const Interior&) = delete;
+    Interior& operator=(const Interior&) = delete;
+
+    /// The text of a state for messages; its wording belongs to the location model.
+    static std::string stateAsString(State state);
+
+    std::string name() const;
+
+    /// Asks for a new name and returns the name that the interior has afterwards.
+    std::string rename(const std::string& name);
+
+    /// Creates a boundary of this interior. On refusal the pointer is null and the state says why.
+    std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::string& location,
+                                                         bool enforceRestrictions);
+    std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::vector<Region*>& regions,
+                                                         bool enforceRestrictions);
+
+    /// The boundary that takes every outward face use which no other boundary of this interior uses.
+    /// It lives as long as the interior and is switched on and off, never destroyed.
+    Boundary* defaultBoundary() const;
+    void activateDefaultBoundary(bool active);
+    bool isDefaultBoundaryActive() const;
+
+    /// The boundaries in the order of their creation, the default boundary last when it is active.
+    std::vector<Boundary*> boundaries() const;
+
+    /// The bodies that the interior stands for now, in the order of the topology.
+    std::vector<Body*> bodies() const;
+
+    /// The faces with both face uses in this interior, in the order of the topology.
+    std::vector<Face*> internalFaces() const;
+
+    /// The face uses of this interior's bodies that no boundary of it uses, but for those of internal
+    /// faces; in the order of the topology.
+    std::vector<FaceUse*> unusedFaceUses() const;
+
+    /// The internal faces of which no face use is in a boundary of this interior.
+    std::vector<Face*> unusedInternalFaces() const;
+
+    /// The other interiors that share a body with this one, each once.
+    std::vector<Interior*> overlappingInteriors() const;
+
+    /// The bodies shared with `other`; empty when `other` is null.
+    std::vector<Body*> overlap(const Interior* other) const;
+
+    /// The terms of the location that name nothing; empty when all are found.
+    std::vector<std::string> unresolvableNames() const;
+
+    /// Where the interior lies; may be null for the default interior.
+    const Location* location() const;
+    bool isDefaultInterior() const;
+    VirtualTopology* virtualTopology() const;
+    State state() const;
+
+    /// Moves the interior. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
+    State relocate(const std::string& location, bool enforceRestrictions);
+    State relocate(const std::vector<Region*>& regions, bool enforceRestrictions);
+
+    /// Takes regions out of the location; true when that changed it.
+    bool remove(const std::vector<Region*>& regions);
+
+    /// Ends the interior with its boundaries and every interface that uses one of them.
+    void destroy();
+
+protected:
+    Interior() = default;
+    ~Interior() = default;
+};
+
+} // namespace gtm
