@@ -1,0 +1,117 @@
+#include "support/JsonDocument.h"
+
+#include "support/JsonScanner.h"
+#include "support/JsonSource.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace gtm::support {
+
+/// Builds the document from the parser's events, because only they tell of a key that comes twice.
+class JsonDocument::Parser : public nlohmann::json_sax<nlohmann::json> {
+public:
+    explicit Parser(JsonDocument& document) : m_document(document) {}
+
+    bool null() override { return add(nullptr); }
+    bool boolean(bool value) override { return add(value); }
+    bool number_integer(number_integer_t value) override { return add(value); }
+    bool number_unsigned(number_unsigned_t value) override { return add(value); }
+    bool number_float(number_float_t value, const string_t&) override { return add(value); }
+    bool string(string_t& value) override { return add(std::move(value)); }
+    bool binary(binary_t&) override { return false; }
+    bool start_object(std::size_t) override { return open(nlohmann::json::object()); }
+    bool start_array(std::size_t) override { return open(nlohmann::json::array()); }
+    bool end_object() override { return close(); }
+    bool end_array() override { return close(); }
+
+    bool key(string_t& key) override
+    {
+        ++m_noOfKeys;
+        const auto [member, isNew] = m_open.back()->get_ref<nlohmann::json::object_t&>().emplace(key, nullptr);
+        if (!isNew) {
+            const std::size_t offset = JsonScanner(m_document.m_text).findKey(m_noOfKeys);
+            throw JsonError(m_document.prefix(offset) + "the key \"" + key +
+                            "\" stands twice in one object; leave only one of them.");
+        }
+        m_member = &member->second;
+        return true;
+    }
+
+    bool parse_error(std::size_t position, const std::string&, const nlohmann::json::exception& error) override
+    {
+        // The library's text begins with "[json.exception...] parse error at line L, column C: ".
+        std::string reason = error.what();
+        reason.erase(0, reason.find("] ") + 2);
+        if (reason.rfind("parse error", 0) == 0) {
+            reason.erase(0, reason.find(": ") + 2);
+        }
+        throw JsonError(m_document.prefix(position == 0 ? 0 : position - 1) + "this is not valid JSON: " + reason +
+                        ".");
+    }
+
+private:
+    nlohmann::json* place(nlohmann::json value)
+    {
+        if (m_open.empty()) {
+            return &(m_document.m_json = std::move(value));
+        }
+        if (m_open.back()->is_array()) {
+            return &m_open.back()->emplace_back(std::move(value));
+        }
+        return &(*m_member = std::move(value));
+    }
+
+    bool add(nlohmann::json value)
+    {
+        place(std::move(value));
+        return true;
+    }
+
+    bool open(nlohmann::json value)
+    {
+        m_open.push_back(place(std::move(value)));
+        return true;
+    }
+
+    bool close()
+    {
+        m_open.pop_back();
+        return true;
+    }
+
+    JsonDocument& m_document;
+    std::vector<nlohmann::json*> m_open;
+    nlohmann::json* m_member = nullptr;
+    std::size_t m_noOfKeys = 0;
+};
+
+JsonDocument::JsonDocument(std::string text, std::string name) : m_text(std::move(text)), m_name(std::move(name))
+{
+    const std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (m_text.compare(0, byteOrderMark.size(), byteOrderMark) == 0) {
+        m_text.erase(0, byteOrderMark.size());
+    }
+    Parser parser(*this);
+    nlohmann::json::sax_parse(m_text, &parser);
+}
+
+std::string JsonDocument::place(std::string_view pointer, At at) const
+{
+    const JsonScanner::Offsets offsets = JsonScanner(m_text).find(pointer);
+    return prefix(at == At::Key ? offsets.key : offsets.value) + "at " +
+           (pointer.empty() ? "the top level" : std::string(pointer)) + ": ";
+}
+
+std::string JsonDocument::prefix(std::size_t offset) const
+{
+    offset = std::min(offset, m_text.size());
+    const auto end = m_text.begin() + static_cast<std::ptrdiff_t>(offset);
+    const auto line = 1 + std::count(m_text.begin(), end, '\n');
+    const std::size_t lineStart = offset == 0 ? std::string::npos : m_text.rfind('\n', offset - 1);
+    const std::size_t column = lineStart == std::string::npos ? offset + 1 : offset - lineStart;
+    return m_name + ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
+}
+
+} // namespace gtm::support

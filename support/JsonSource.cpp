@@ -1,0 +1,41 @@
+#include "support/JsonSource.h"
+
+#include "support/JsonDocument.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+namespace gtm::support {
+
+JsonSource::JsonSource(std::shared_ptr<const JsonDocument> document) : m_document(std::move(document)) {}
+
+JsonSource JsonSource::fromFile(const std::filesystem::path& file)
+{
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file, ignored)) {
+        throw JsonError(file.string() + ": this is a folder; give the name of a JSON file.");
+    }
+    errno = 0;
+    std::ifstream stream(file, std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (!stream.is_open() || stream.bad()) {
+        throw JsonError(file.string() + ": cannot read this file: " + std::generic_category().message(errno) + ".");
+    }
+    return fromText(std::move(text), file.string());
+}
+
+JsonSource JsonSource::fromText(std::string text, std::string name)
+{
+    return JsonSource(std::make_shared<JsonDocument>(std::move(text), std::move(name)));
+}
+
+const std::string& JsonSource::name() const { return m_document->name(); }
+
+JsonNode JsonSource::root() const { return {m_document, m_document->json(), ""}; }
+
+} // namespace gtm::support

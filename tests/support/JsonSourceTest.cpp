@@ -1,0 +1,109 @@
+#include "support/JsonSource.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+namespace {
+
+using gtm::support::JsonError;
+using gtm::support::JsonSource;
+
+std::string messageOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const JsonError& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+std::string refusalOf(const std::string& text)
+{
+    return messageOf([&] { JsonSource::fromText(text, "a.json"); });
+}
+
+TEST(JsonSource, aTextIsParsedUnderItsName)
+{
+    const JsonSource source = JsonSource::fromText(R"({"a": [1, {"b": "x"}]})", "a.json");
+
+    EXPECT_EQ(source.name(), "a.json");
+    EXPECT_EQ(source.root().member("a").items()[1].member("b").string(), "x");
+}
+
+TEST(JsonSource, everyKindOfValueIsKept)
+{
+    const JsonSource source = JsonSource::fromText(R"([null, true, -3, 4, 1.5, "t", {}, []])", "a.json");
+
+    EXPECT_EQ(source.root().value().dump(), R"([null,true,-3,4,1.5,"t",{},[]])");
+}
+
+TEST(JsonSource, aByteOrderMarkIsSkippedAndDoesNotShiftTheColumn)
+{
+    EXPECT_EQ(JsonSource::fromText("\xEF\xBB\xBF[1]", "a.json").root().items().size(), 1U);
+    EXPECT_EQ(refusalOf("\xEF\xBB\xBF[1,]"), refusalOf("[1,]"));
+}
+
+TEST(JsonSource, aFileIsReadUnderItsPath)
+{
+    const std::filesystem::path file = std::filesystem::path(::testing::TempDir()) / "aFileIsReadUnderItsPath.json";
+    std::ofstream(file) << "[1, 2]";
+
+    const JsonSource source = JsonSource::fromFile(file);
+
+    EXPECT_EQ(source.name(), file.string());
+    EXPECT_EQ(source.root().items().size(), 2U);
+    std::filesystem::remove(file);
+}
+
+TEST(JsonSource, aMissingFileIsRefusedWithTheReason)
+{
+    EXPECT_EQ(messageOf([] { JsonSource::fromFile("no/such.json"); }),
+              "no/such.json: cannot read this file: No such file or directory.");
+}
+
+TEST(JsonSource, aFolderIsRefused)
+{
+    EXPECT_EQ(messageOf([] { JsonSource::fromFile("/"); }), "/: this is a folder; give the name of a JSON file.");
+}
+
+TEST(JsonSource, invalidTextIsRefusedWhereItBreaks)
+{
+    EXPECT_EQ(refusalOf(""), "a.json:1:1: this is not valid JSON: syntax error while parsing value - unexpected end of "
+                             "input; expected '[', '{', or a literal.");
+    EXPECT_EQ(refusalOf("{\n  \"a\": 1,\n}"),
+              "a.json:3:1: this is not valid JSON: syntax error while parsing object key - unexpected '}'; expected "
+              "string literal.");
+    EXPECT_EQ(refusalOf("[1]\n[2]"),
+              "a.json:2:1: this is not valid JSON: syntax error while parsing value - unexpected "
+              "'['; expected end of input.");
+}
+
+TEST(JsonSource, aNumberTooLargeToHoldIsRefused)
+{
+    EXPECT_EQ(refusalOf("[\n 1e999]"), "a.json:2:6: this is not valid JSON: number overflow parsing '1e999'.");
+}
+
+TEST(JsonSource, aKeyGivenTwiceInAnObjectIsRefusedAtItsSecondPlace)
+{
+    EXPECT_EQ(refusalOf("{\"a\": {\"id\": \"\\\":\", \"x\": 1},\n \"b\": 2, \"a\": 3}"),
+              "a.json:2:10: the key \"a\" stands twice in one object; leave only one of them.");
+}
+
+TEST(JsonSource, oneKeyInTwoObjectsIsFine)
+{
+    EXPECT_EQ(refusalOf(R"([{"a": 1}, {"a": 2}, {"b": {"a": 1}, "a": 2}])"), "no error");
+}
+
+TEST(JsonSource, deepNestingIsNoProblem)
+{
+    const std::size_t depth = 100000;
+
+    EXPECT_EQ(refusalOf(std::string(depth, '[') + std::string(depth, ']')), "no error");
+}
+
+} // namespace
