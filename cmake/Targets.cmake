@@ -24,7 +24,8 @@ function(physics_target target)
 endfunction()
 
 # A library of ours twice from one compilation: `<name>-objects`, which tests link because it hides
-# nothing from them, and the versioned shared library `<name>`, which everybody else links.
+# nothing from them, and the versioned shared library `<name>`, which everybody else links. The global
+# property PHYSICS_LIBRARIES lists them all.
 function(physics_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE")
   add_library(${name}-objects OBJECT ${arg_SOURCES})
@@ -37,4 +38,7 @@ function(physics_library name)
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
   target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${name}-objects ${arg_PRIVATE})
+  target_link_options(${name} PRIVATE "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  set_target_properties(${name} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  set_property(GLOBAL APPEND PROPERTY PHYSICS_LIBRARIES ${name})
 endfunction()

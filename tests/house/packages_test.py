@@ -1,0 +1,30 @@
+"""The comparison of the package list with its explanations finds each kind of difference."""
+
+import unittest
+
+import packages
+
+
+class PackagesTest(unittest.TestCase):
+    def test_the_list_is_read_without_comments_and_blank_lines(self):
+        self.assertEqual(packages.listed("# why\n\ncmake\ngit # history\n"), ["cmake", "git"])
+
+    def test_reasons_are_read_from_table_rows(self):
+        text = "| package | why |\n| --- | --- |\n| `cmake` | builds |\nAlso `git`.\n| `git` |  |\n"
+
+        self.assertEqual(packages.explained(text), {"cmake": "builds", "git": ""})
+
+    def test_equal_lists_are_fine(self):
+        self.assertEqual(packages.findings(["cmake", "git"], {"git": "history", "cmake": "builds"}), [])
+
+    def test_every_difference_is_named(self):
+        self.assertEqual(packages.findings(["git", "cmake"], {"git": "", "ninja": "fast"}), [
+            "scripts/packages.txt: cmake is not explained in docs/dependencies.md",
+            "docs/dependencies.md: git has no reason",
+            "docs/dependencies.md: ninja is not in scripts/packages.txt",
+            "scripts/packages.txt: cmake must stand before git: the list is sorted and names each once",
+        ])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,58 @@
+#!/usr/bin/env python3
+"""Fails when a shared library shows a symbol outside its namespace, or wants one that its users cannot have.
+
+usage: symbols.py LIBRARY NAMESPACE [FOREIGN_NAMESPACE...]
+
+NAMESPACE is the only one that the library may define symbols of. What it leaves undefined must come from the
+C or C++ runtime, or from one of the foreign namespaces; without any, undefined symbols are not looked at.
+"""
+
+import re
+import subprocess
+import sys
+
+import tree
+
+# Versioned symbols of the runtime libraries, weak hooks of the linker, and the sanitizers' own calls.
+RUNTIME = re.compile(r"@(GLIBC|GLIBCXX|CXXABI|GCC|LIBTBB)_|^(_ITM_|__gmon_start__|__cxa_finalize|__asan_|__ubsan_|__lsan_)")
+
+
+def belongs_to(symbol, namespace):
+    """Whether a mangled name is that of a function, variable, vtable, type or thunk of a namespace."""
+    wrapped = r"(GV|GR|Z|TV|TI|TS|TT|Thn?\d+_|Tvn?\d+_n?\d+_)*"
+    return re.match(rf"_Z{wrapped}N?[rVKRO]*{len(namespace)}{namespace}", symbol) is not None
+
+
+def foreign_definitions(symbols, namespace):
+    return [symbol for symbol in symbols if not belongs_to(symbol, namespace)]
+
+
+def foreign_wishes(symbols, namespaces):
+    return [symbol for symbol in symbols
+            if not RUNTIME.search(symbol) and not any(belongs_to(symbol, namespace) for namespace in namespaces)]
+
+
+def dynamic_symbols(library, which):
+    listed = subprocess.run(["nm", "--dynamic", "--format=posix", which, library],
+                            check=True, text=True, stdout=subprocess.PIPE).stdout
+    return [line.split()[0] for line in listed.splitlines()]
+
+
+def readable(symbol):
+    return subprocess.run(["c++filt", symbol], check=True, text=True, stdout=subprocess.PIPE).stdout.strip()
+
+
+def main(library, namespace, *foreign):
+    defined = dynamic_symbols(library, "--defined-only")
+    findings = [f"{library}: shows {readable(symbol)}, which is not in namespace {namespace}"
+                for symbol in foreign_definitions(defined, namespace)]
+    if foreign:
+        findings += [f"{library}: wants {readable(symbol)}, which is neither in {' or '.join(foreign)} nor in the runtime"
+                     for symbol in foreign_wishes(dynamic_symbols(library, "--undefined-only"), foreign)]
+    tree.finish(f"symbols of {library}", findings, len(defined))
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 3:
+        sys.exit(__doc__)
+    main(*sys.argv[1:])

@@ -1,0 +1,48 @@
+"""The check of the symbols tells ours from those of others, by their mangled names."""
+
+import unittest
+
+import symbols
+
+OURS = [
+    "_ZN7physics6Volume7destroyEv",                                    # physics::Volume::destroy()
+    "_ZNK7physics6Volume4nameB5cxx11Ev",                               # physics::Volume::name() const
+    "_ZTIN7physics6VolumeE",                                           # typeinfo for physics::Volume
+    "_ZTSN7physics6VolumeE",                                           # its name
+    "_ZTVN7physics6VolumeE",                                           # vtable for physics::Volume
+    "_ZGVZN7physics4nameEvE5table",                                    # guard of a local static
+    "_ZThn8_N7physics6VolumeD0Ev",                                     # non-virtual thunk
+    "_ZNK7physics7Physics10typeToNameINS_10VolumeTypeEEESsT_",         # a member template
+    "_ZN7physicslsERSoNS_4SideE",                                      # physics::operator<<
+]
+FOREIGN = [
+    "_ZNSt6vectorIPN7physics6VolumeESaIS2_EE9push_backEOS2_",          # std::vector<physics::Volume*>::push_back
+    "_ZN3gtm8Interior7destroyEv",
+    "_Z6helperv",
+    "_ZN13physics_other3runEv",
+    "_ZTISt9exception",
+    "main",
+]
+
+
+class SymbolsTest(unittest.TestCase):
+    def test_everything_of_the_namespace_belongs_to_it(self):
+        self.assertEqual(symbols.foreign_definitions(OURS, "physics"), [])
+
+    def test_everything_else_is_foreign_even_when_it_mentions_the_namespace(self):
+        self.assertEqual(symbols.foreign_definitions(OURS + FOREIGN, "physics"), FOREIGN)
+
+    def test_a_library_may_want_the_runtime_and_the_foreign_namespace_it_names(self):
+        wanted = ["_Znwm@GLIBCXX_3.4", "memcpy@GLIBC_2.14", "__gmon_start__", "_ITM_registerTMCloneTable",
+                  "_Unwind_Resume@GCC_3.0", "__asan_report_load8", "_ZN3gtm8Interior7destroyEv", "_ZTIN3gtm6RegionE"]
+
+        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"]), [])
+
+    def test_a_library_may_not_want_anything_else(self):
+        wanted = ["_ZN13LocationModelC1Ev", "json_read", "_ZN3foo3barEv"]
+
+        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"]), wanted)
+
+
+if __name__ == "__main__":
+    unittest.main()
