@@ -13,8 +13,8 @@ import sys
 
 import tree
 
-# Versioned symbols of the runtime libraries, weak hooks of the linker, and the sanitizers' own calls.
-RUNTIME = re.compile(r"@(GLIBC|GLIBCXX|CXXABI|GCC|LIBTBB)_|^(_ITM_|__gmon_start__|__cxa_finalize|__asan_|__ubsan_|__lsan_)")
+# The libraries of the C and C++ runtime, with the sanitizers, whose calls a checked build makes.
+RUNTIME = re.compile(r"^\s*\S*\b(?:libc|libm|libstdc\+\+|libgcc_s|libasan|libubsan)\.so\S* => (\S+)", re.MULTILINE)
 
 
 def belongs_to(symbol, namespace):
@@ -27,15 +27,22 @@ def foreign_definitions(symbols, namespace):
     return [symbol for symbol in symbols if not belongs_to(symbol, namespace)]
 
 
-def foreign_wishes(symbols, namespaces):
+def foreign_wishes(symbols, namespaces, runtime):
     return [symbol for symbol in symbols
-            if not RUNTIME.search(symbol) and not any(belongs_to(symbol, namespace) for namespace in namespaces)]
+            if symbol not in runtime and not any(belongs_to(symbol, namespace) for namespace in namespaces)]
 
 
 def dynamic_symbols(library, which):
+    """The names without version; what is undefined but weak is left out, since nobody has to provide it."""
     listed = subprocess.run(["nm", "--dynamic", "--format=posix", which, library],
                             check=True, text=True, stdout=subprocess.PIPE).stdout
-    return [line.split()[0] for line in listed.splitlines()]
+    fields = (line.split() for line in listed.splitlines())
+    return [field[0].partition("@")[0] for field in fields if field[1] not in "wv"]
+
+
+def runtime_symbols(library):
+    loaded = subprocess.run(["ldd", library], check=True, text=True, stdout=subprocess.PIPE).stdout
+    return {symbol for path in RUNTIME.findall(loaded) for symbol in dynamic_symbols(path, "--defined-only")}
 
 
 def readable(symbol):
@@ -48,7 +55,8 @@ def main(library, namespace, *foreign):
                 for symbol in foreign_definitions(defined, namespace)]
     if foreign:
         findings += [f"{library}: wants {readable(symbol)}, which is neither in {' or '.join(foreign)} nor in the runtime"
-                     for symbol in foreign_wishes(dynamic_symbols(library, "--undefined-only"), foreign)]
+                     for symbol in foreign_wishes(dynamic_symbols(library, "--undefined-only"), foreign,
+                                                  runtime_symbols(library))]
     tree.finish(f"symbols of {library}", findings, len(defined))
 
 

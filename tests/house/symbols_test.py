@@ -33,15 +33,20 @@ class SymbolsTest(unittest.TestCase):
         self.assertEqual(symbols.foreign_definitions(OURS + FOREIGN, "physics"), FOREIGN)
 
     def test_a_library_may_want_the_runtime_and_the_foreign_namespace_it_names(self):
-        wanted = ["_Znwm@GLIBCXX_3.4", "memcpy@GLIBC_2.14", "__gmon_start__", "_ITM_registerTMCloneTable",
-                  "_Unwind_Resume@GCC_3.0", "__asan_report_load8", "_ZN3gtm8Interior7destroyEv", "_ZTIN3gtm6RegionE"]
+        wanted = ["_Znwm", "memcpy", "_ZN3gtm8Interior7destroyEv", "_ZTIN3gtm6RegionE"]
 
-        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"]), [])
+        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"], {"_Znwm", "memcpy"}), [])
 
     def test_a_library_may_not_want_anything_else(self):
         wanted = ["_ZN13LocationModelC1Ev", "json_read", "_ZN3foo3barEv"]
 
-        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"]), wanted)
+        self.assertEqual(symbols.foreign_wishes(wanted, ["gtm"], {"memcpy"}), wanted)
+
+    def test_the_runtime_is_read_from_what_the_loader_finds(self):
+        listed = ("\tlinux-vdso.so.1 (0x1)\n\tlibLocationModel.so.0 => /b/libLocationModel.so.0 (0x2)\n"
+                  "\tlibstdc++.so.6 => /lib/libstdc++.so.6 (0x3)\n\tlibc.so.6 => /lib/libc.so.6 (0x4)\n")
+
+        self.assertEqual(symbols.RUNTIME.findall(listed), ["/lib/libstdc++.so.6", "/lib/libc.so.6"])
 
 
 if __name__ == "__main__":
