@@ -1,0 +1,80 @@
+#pragma once
+
+#include "gtm/Interior.h"
+#include "tests/scripted/Answers.h"
+#include "tests/scripted/Boundary.h"
+#include "tests/scripted/Location.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace scripted {
+
+class WorkingCopy;
+
+/// True for the states in which an entity may be created although restrictions are enforced.
+template <class State>
+bool isAccepted(State state)
+{
+    return state == State::Valid || state == State::Incomplete;
+}
+
+class Interior final : public gtm::Interior {
+public:
+    /// Without a place it is the default interior of its working copy.
+    Interior(WorkingCopy& copy, std::size_t serial, std::string name, std::optional<Place> place);
+    ~Interior();
+
+    WorkingCopy& copy() const { return m_copy; }
+    std::size_t serial() const { return m_serial; }
+    Location* location() const { return m_location.get(); }
+    InteriorAnswers& answers() { return m_answers; }
+    const InteriorAnswers& answers() const { return m_answers; }
+    Boundary* defaultBoundary() const { return m_defaultBoundary.get(); }
+
+    /// As messages of the record name it.
+    std::string subject() const { return "interior \"" + m_name + "\""; }
+
+    std::pair<gtm::Boundary*, gtm::Boundary::State> createBoundary(const std::string& name, Place place,
+                                                                   bool enforceRestrictions);
+    void end(Boundary* boundary);
+
+    /// Ends all boundaries with their interfaces; the default boundary stays, switched off.
+    void endBoundaries();
+
+    /// Those with a location of their own, in the order of creation.
+    std::vector<Boundary*> ordinaryBoundaries() const;
+
+    // What the interior answers when nothing else is set.
+    std::vector<gtm::Body*> resolvedBodies() const;
+    std::vector<gtm::Face*> resolvedInternalFaces() const;
+    State judgedState() const;
+
+    /// The face uses of the bodies but for those of internal faces and those of `boundaries`.
+    std::vector<gtm::FaceUse*> outwardFaceUsesBeside(const std::vector<Boundary*>& boundaries) const;
+
+    std::string m_name;
+    bool m_isDefaultBoundaryActive = false;
+
+private:
+    WorkingCopy& m_copy;
+    std::size_t m_serial;
+    std::unique_ptr<Location> m_location;
+    InteriorAnswers m_answers;
+    std::map<std::size_t, std::unique_ptr<Boundary>> m_boundaries;
+    std::unique_ptr<Boundary> m_defaultBoundary;
+};
+
+inline Interior* scriptedOf(gtm::Interior* interior) { return static_cast<Interior*>(interior); }
+inline const Interior* scriptedOf(const gtm::Interior* interior) { return static_cast<const Interior*>(interior); }
+
+/// The face uses of all of these boundaries.
+std::set<gtm::FaceUse*> faceUsesOf(const std::vector<Boundary*>& boundaries);
+
+} // namespace scripted
