@@ -1,13 +1,27 @@
 """The check of the arrows finds what it is there for, on small trees made up here."""
 
+import re
 import unittest
 
 import arrows
+import tree
 
 
 class ArrowsTest(unittest.TestCase):
     def test_the_table_itself_has_no_ring(self):
         self.assertEqual(arrows.rings(arrows.ALLOWED), [])
+
+    def test_the_picture_shows_the_table(self):
+        picture = re.findall(r'^ *"([^"]+)" -> "([^"]+)"', tree.read("docs/architecture.dot"), re.MULTILINE)
+        direct = {room: {end for start, end in picture if start == room} for room in arrows.ALLOWED}
+
+        def reachable(room):
+            return direct[room].union(*map(reachable, direct[room]))
+
+        for room, allowed in arrows.ALLOWED.items():
+            with self.subTest(room=room):
+                self.assertLessEqual(direct[room], allowed)
+                self.assertLessEqual(allowed, reachable(room))
 
     def test_a_tree_with_arrows_down_only_is_fine(self):
         sources = {
