@@ -80,14 +80,14 @@ gtm::VirtualTopology* World::virtualTopology(std::size_t index) const
     return isAlive ? m_workingCopies[index]->virtualTopology() : nullptr;
 }
 
-gtm::Interior* World::interior(const std::string& name, std::size_t index) const
+gtm::Interior* World::interior(const std::string& name, std::size_t topology) const
 {
-    return withName(virtualTopology(index)->interiors(), name);
+    return withName(virtualTopology(topology)->interiors(), name);
 }
 
-gtm::Boundary* World::boundary(const std::string& name, std::size_t index) const
+gtm::Boundary* World::boundary(const std::string& name, std::size_t topology) const
 {
-    for (const gtm::Interior* interior : virtualTopology(index)->interiors()) {
+    for (const gtm::Interior* interior : virtualTopology(topology)->interiors()) {
         if (gtm::Boundary* boundary = withName(interior->boundaries(), name)) {
             return boundary;
         }
@@ -95,9 +95,9 @@ gtm::Boundary* World::boundary(const std::string& name, std::size_t index) const
     return nullptr;
 }
 
-gtm::Interface* World::interface(const std::string& name, std::size_t index) const
+gtm::Interface* World::interface(const std::string& name, std::size_t topology) const
 {
-    return withName(virtualTopology(index)->interfaces(), name);
+    return withName(virtualTopology(topology)->interfaces(), name);
 }
 
 void World::throwIfAsked(const char* operation)

@@ -64,9 +64,9 @@ public:
     std::size_t noOfVirtualTopologiesMade() const { return m_workingCopies.size(); }
 
     /// The first living entity with this name, the default ones included when they are active, or null.
-    gtm::Interior* interior(const std::string& name, std::size_t virtualTopology = 0) const;
-    gtm::Boundary* boundary(const std::string& name, std::size_t virtualTopology = 0) const;
-    gtm::Interface* interface(const std::string& name, std::size_t virtualTopology = 0) const;
+    gtm::Interior* interior(const std::string& name, std::size_t topology = 0) const;
+    gtm::Boundary* boundary(const std::string& name, std::size_t topology = 0) const;
+    gtm::Interface* interface(const std::string& name, std::size_t topology = 0) const;
 
     /// Changes every name that an entity is given at its creation or by a renaming.
     void nameHook(std::function<std::string(const std::string&)> hook) { m_nameHook = std::move(hook); }
