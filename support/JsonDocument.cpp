@@ -1,5 +1,6 @@
 #include "support/JsonDocument.h"
 
+#include "support/InQuotes.h"
 #include "support/JsonScanner.h"
 #include "support/JsonSource.h"
 
@@ -8,6 +9,16 @@
 #include <vector>
 
 namespace gtm::support {
+namespace {
+
+/// A pointer as a message shows it: the keys in it may hold anything.
+std::string onOneLine(std::string_view pointer)
+{
+    const std::string literal = inQuotes(pointer);
+    return literal.substr(1, literal.size() - 2);
+}
+
+} // namespace
 
 /// Builds the document from the parser's events, because only they tell of a key that comes twice.
 class JsonDocument::Parser : public nlohmann::json_sax<nlohmann::json> {
@@ -32,8 +43,8 @@ public:
         const auto [member, isNew] = m_open.back()->get_ref<nlohmann::json::object_t&>().emplace(key, nullptr);
         if (!isNew) {
             const std::size_t offset = JsonScanner(m_document.m_text).findKey(m_noOfKeys);
-            throw JsonError(m_document.prefix(offset) + "the key \"" + key +
-                            "\" stands twice in one object; leave only one of them.");
+            throw JsonError(m_document.prefix(offset) + "the key " + inQuotes(key) +
+                            " stands twice in one object; leave only one of them.");
         }
         m_member = &member->second;
         return true;
@@ -101,7 +112,7 @@ std::string JsonDocument::place(std::string_view pointer, At at) const
 {
     const JsonScanner::Offsets offsets = JsonScanner(m_text).find(pointer);
     return prefix(at == At::Key ? offsets.key : offsets.value) + "at " +
-           (pointer.empty() ? "the top level" : std::string(pointer)) + ": ";
+           (pointer.empty() ? "the top level" : onOneLine(pointer)) + ": ";
 }
 
 std::string JsonDocument::prefix(std::size_t offset) const

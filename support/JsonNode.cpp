@@ -1,5 +1,6 @@
 #include "support/JsonNode.h"
 
+#include "support/InQuotes.h"
 #include "support/JsonDocument.h"
 #include "support/JsonSource.h"
 #include "support/NearestName.h"
@@ -63,11 +64,15 @@ void JsonNode::expectKeys(std::initializer_list<std::string_view> known) const
 {
     for (const std::string& key : keys()) {
         if (std::find(known.begin(), known.end(), key) == known.end()) {
-            const std::string hint = hintForName(key, std::vector<std::string>(known.begin(), known.end()));
-            throw JsonError(m_document->place(m_path + "/" + escaped(key), JsonDocument::At::Key) +
-                            "there is no key \"" + key + "\" here" + hint);
+            failUnknownKey(key, std::vector<std::string>(known.begin(), known.end()));
         }
     }
+}
+
+void JsonNode::failUnknownKey(std::string_view key, const std::vector<std::string>& known) const
+{
+    throw JsonError(m_document->place(m_path + "/" + escaped(key), JsonDocument::At::Key) + "there is no key " +
+                    inQuotes(key) + " here" + hintForName(key, known));
 }
 
 std::vector<std::string> JsonNode::keys() const

@@ -31,6 +31,9 @@ public:
     /// An object. Refuses the first key that is not in `known`, with the nearest one that is.
     void expectKeys(std::initializer_list<std::string_view> known) const;
 
+    /// Refuse one key of the object, for a reader that looks at all keys before it gives up.
+    [[noreturn]] void failUnknownKey(std::string_view key, const std::vector<std::string>& known) const;
+
     /// The keys of an object in byte order.
     std::vector<std::string> keys() const;
 

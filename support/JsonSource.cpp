@@ -38,4 +38,9 @@ const std::string& JsonSource::name() const { return m_document->name(); }
 
 JsonNode JsonSource::root() const { return {m_document, m_document->json(), ""}; }
 
+std::string JsonSource::place(std::string_view pointer) const
+{
+    return m_document->place(pointer, JsonDocument::At::Value);
+}
+
 } // namespace gtm::support

@@ -7,6 +7,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace gtm::support {
 
@@ -30,6 +31,10 @@ public:
 
     const std::string& name() const;
     JsonNode root() const;
+
+    /// "FILE:LINE:COLUMN: at PATH: " for the value at a JSON pointer that exists in the document: what a
+    /// complaint begins with that is found after reading.
+    std::string place(std::string_view pointer) const;
 
 private:
     explicit JsonSource(std::shared_ptr<const JsonDocument> document);

@@ -51,6 +51,14 @@ TEST(JsonNode, anUnknownKeyIsRefusedWhereItStandsWithTheNearestKnownOne)
               "a.json:2:4: at /bodys: there is no key \"bodys\" here; did you mean \"bodies\"?");
 }
 
+TEST(JsonNode, aKeyCanBeRefusedByTheCallersOwnChoice)
+{
+    EXPECT_EQ(refusalOf("{\"a\": 1, \"b/c\": 2}", [](const JsonNode& node) { node.failUnknownKey("b/c", {"x"}); }),
+              "a.json:1:10: at /b~1c: there is no key \"b/c\" here; the only known one is \"x\".");
+    EXPECT_EQ(refusalOf("{\"a\\nb\": 1}", [](const JsonNode& node) { node.expectKeys({"x"}); }),
+              "a.json:1:2: at /a\\nb: there is no key \"a\\nb\" here; the only known one is \"x\".");
+}
+
 TEST(JsonNode, aValueOfTheWrongKindIsRefusedWhereItStands)
 {
     const std::string text = "{\n  \"a\": {\"b\": [ 1,\n  \"two]\", {} ]}\n}";

@@ -35,6 +35,14 @@ TEST(JsonSource, aTextIsParsedUnderItsName)
     EXPECT_EQ(source.root().member("a").items()[1].member("b").string(), "x");
 }
 
+TEST(JsonSource, thePlaceOfAValueIsFoundAgainByItsPointer)
+{
+    const JsonSource source = JsonSource::fromText("{\"a\":\n  [1, {\"b/c\": 2}]}", "a.json");
+
+    EXPECT_EQ(source.place(""), "a.json:1:1: at the top level: ");
+    EXPECT_EQ(source.place("/a/1/b~1c"), "a.json:2:15: at /a/1/b~1c: ");
+}
+
 TEST(JsonSource, everyKindOfValueIsKept)
 {
     const JsonSource source = JsonSource::fromText(R"([null, true, -3, 4, 1.5, "t", {}, []])", "a.json");
