@@ -15,11 +15,27 @@ BAD = {
 
 
 class HeadersTest(unittest.TestCase):
-    def complaint(self, compiler, text):
+    def complaint(self, compiler, text, standard="c++17"):
         with tempfile.TemporaryDirectory() as root:
             with open(os.path.join(root, "Sample.h"), "w", encoding="utf-8") as file:
                 file.write(text)
-            return headers.complaint(compiler, "Sample.h", root)
+            return headers.complaint(compiler, standard, "Sample.h", root)
+
+    def test_what_is_exported_is_public_with_all_that_it_includes(self):
+        sources = {
+            "gtm/LocationModel.h": "",
+            "physics/Volume.h": '#include "physics/Region.h"\nclass PHYSICS_EXPORT Volume;\n',
+            "physics/Region.h": '#include "physics/Lifetime.h"\n',
+            "physics/Lifetime.h": "#include <vector>\n",
+            "physics/Registry.h": '#include "physics/Volume.h"\n',
+            "tests/Sample.h": "class GTM_EXPORT Sample;\n",
+        }
+
+        self.assertEqual(headers.public(sources),
+                         {"gtm/LocationModel.h", "physics/Volume.h", "physics/Region.h", "physics/Lifetime.h"})
+
+    def test_an_internal_header_may_use_c_plus_plus_20(self):
+        self.assertEqual(self.complaint("g++", BAD["it needs C++20"], "c++20"), "")
 
     def test_a_complete_header_passes(self):
         for compiler in ["g++", "clang++"]:
