@@ -1,0 +1,293 @@
+#include "physics/Boundary.h"
+
+#include "physics/BoundaryPatch.h"
+#include "physics/Interface.h"
+#include "physics/Model.h"
+#include "physics/Physics.h"
+#include "physics/Registry.h"
+#include "physics/Settings.h"
+#include "physics/Volume.h"
+#include "physics/Zones.h"
+
+#include "gtm/LocationModel.h"
+
+#include <unordered_set>
+
+namespace physics {
+
+int Boundary::s_lastUsedId = 0;
+
+Boundary::Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
+    : m_id(nextId(s_lastUsedId)),
+      m_type(type),
+      m_boundary(boundary),
+      m_volume(volume),
+      m_isDefault(isDefault),
+      m_ownPatch(new BoundaryPatch(this, nullptr))
+{
+    volume->add(this);
+}
+
+Boundary::~Boundary() = default;
+
+Physics* Boundary::physics() const { return m_volume->physics(); }
+
+std::string Boundary::name() const { return m_boundary->name(); }
+std::string Boundary::fullName() const { return m_volume->name() + "::" + name(); }
+State Boundary::state() const { return State(static_cast<int>(m_boundary->state())); }
+bool Boundary::isActive() const { return m_volume->isActive(); }
+bool Boundary::isEmpty() const { return m_boundary->faceUses().empty(); }
+std::string Boundary::rename(const std::string& name) { return m_boundary->rename(name); }
+Model* Boundary::shellModel() const { return m_shellModel.get(); }
+Model* Boundary::volumeModel() const { return m_volume->model(); }
+VolumeType Boundary::volumeType() const { return m_volume->type(); }
+
+const gtm::Location* Boundary::location() const { return m_boundary->location(); }
+std::vector<gtm::FaceUse*> Boundary::faceUses() const { return m_boundary->faceUses(); }
+std::vector<std::string> Boundary::unresolvableNames() const { return m_boundary->unresolvableNames(); }
+
+std::vector<gtm::FaceUse*> Boundary::overlap(const Boundary* other) const
+{
+    return other == nullptr ? std::vector<gtm::FaceUse*>() : m_boundary->overlap(other->m_boundary);
+}
+
+std::vector<Boundary*> Boundary::overlappingBoundaries() const
+{
+    std::vector<Boundary*> boundaries;
+    for (const gtm::Boundary* boundary : m_boundary->overlappingBoundaries())
+        boundaries.push_back(physics()->find(boundary));
+    return boundaries;
+}
+
+bool Boundary::isInternal() const { return physics()->isInternalBoundaryType(m_type); }
+bool Boundary::couldBeInternal() const { return m_boundary->isInternal(); }
+Boundary* Boundary::pair() const { return physics()->find(m_boundary->pair()); }
+
+bool Boundary::setBoundaryType(BoundaryType type)
+{
+    if (!physics()->isAllowedBoundaryType(volumeType(), type))
+        return false;
+    for (const auto& entry : m_interfacePatches)
+        if (!entry.first->isAllowedBoundaryType(volumeType(), type))
+            return false;
+    m_type = type;
+    return true;
+}
+
+bool Boundary::setShellType(ShellType type)
+{
+    if (!m_shellModel || !isAllowedShellType(type))
+        return false;
+    m_shellType = type;
+    return true;
+}
+
+void Boundary::setShellModel(Model* model)
+{
+    if (model != nullptr && model->physics() != physics())
+        return;
+    if (m_shellModel && model != nullptr)
+        m_shellModel->move(this, model);
+    else if (m_shellModel)
+        m_shellModel->remove(this);
+    else if (model != nullptr)
+        model->add(this);
+    m_shellModel = model;
+}
+
+std::vector<InterfaceType> Boundary::allowedInterfaceTypes() const
+{
+    return physics()->allowedInterfaceTypes(m_type, volumeType());
+}
+
+bool Boundary::isAllowedInterfaceType(InterfaceType type) const
+{
+    return physics()->isAllowedInterfaceType(m_type, volumeType(), type);
+}
+
+std::vector<ShellType> Boundary::allowedShellTypes() const { return physics()->allowedShellTypes(m_type); }
+bool Boundary::isAllowedShellType(ShellType type) const { return physics()->isAllowedShellType(m_type, type); }
+
+void Boundary::addTag(BoundaryTag tag) { m_tags.insert(tag); }
+void Boundary::removeTag(BoundaryTag tag) { m_tags.erase(tag); }
+bool Boundary::hasTag(BoundaryTag tag) const { return m_tags.count(tag) > 0; }
+std::vector<BoundaryTag> Boundary::tags() const { return {m_tags.begin(), m_tags.end()}; }
+
+BoundaryPatch* Boundary::addToInterface(Interface* interface)
+{
+    std::unique_ptr<BoundaryPatch> patch(new BoundaryPatch(this, interface));
+    std::unique_ptr<BoundaryPatch>& entry = m_interfacePatches[interface];
+    entry.swap(patch); // an interface with this boundary on both sides: the earlier patch ends here
+    return entry.get();
+}
+
+/// The patch ends before its entry goes: until then the boundary counts it, so that the zones of an
+/// undivided boundary are not yet inherited.
+bool Boundary::removeFromInterface(Interface* interface)
+{
+    const auto entry = m_interfacePatches.find(interface);
+    if (entry == m_interfacePatches.end())
+        return false;
+    entry->second.reset();
+    m_interfacePatches.erase(entry);
+    return true;
+}
+
+int Boundary::noOfInterfaces() const { return static_cast<int>(m_interfacePatches.size()); }
+
+std::vector<Interface*> Boundary::interfaces() const
+{
+    std::vector<Interface*> interfaces;
+    interfaces.reserve(m_interfacePatches.size());
+    for (const auto& entry : m_interfacePatches)
+        if (entry.second != nullptr)
+            interfaces.push_back(entry.second->interface());
+    sortById(interfaces);
+    return interfaces;
+}
+
+BoundaryPatch* Boundary::patch(const Interface* interface) const
+{
+    if (interface == nullptr)
+        return m_ownPatch.get();
+    const auto entry = m_interfacePatches.find(interface);
+    return entry == m_interfacePatches.end() ? nullptr : entry->second.get();
+}
+
+std::vector<BoundaryPatch*> Boundary::patches() const
+{
+    std::vector<BoundaryPatch*> patches = {m_ownPatch.get()};
+    for (const Interface* interface : interfaces())
+        patches.push_back(patch(interface));
+    return patches;
+}
+
+Settings* Boundary::settings(SettingsType kind, const Interface* interface) const
+{
+    const BoundaryPatch* ofInterface = patch(interface);
+    Model* model = ofInterface == nullptr ? nullptr : ofInterface->model(kind);
+    return model == nullptr ? nullptr : model->settings(ofInterface, kind);
+}
+
+Settings* Boundary::boundarySettings(const Interface* interface) const
+{
+    return settings(SettingsType::VolumeSettings, interface);
+}
+
+Settings* Boundary::shellSettings(const Interface* interface) const
+{
+    return settings(SettingsType::ShellSettings, interface);
+}
+
+Settings* Boundary::interfaceSettings(const Interface* interface) const
+{
+    return settings(SettingsType::InterfaceSettings, interface);
+}
+
+Settings* Boundary::nonOverlappingBoundarySettings() const { return m_ownPatch->boundarySettings(); }
+Settings* Boundary::nonOverlappingShellSettings() const { return m_ownPatch->shellSettings(); }
+
+void Boundary::appendSettings(std::vector<Settings*>& result, SettingsType kind) const
+{
+    for (const BoundaryPatch* patch : patches())
+        result.push_back(patch->settings(kind));
+}
+
+void Boundary::appendInterfaceSettings(std::vector<Settings*>& result) const
+{
+    for (const Interface* interface : interfaces())
+        if (Settings* settings = patch(interface)->interfaceSettings())
+            result.push_back(settings);
+}
+
+std::vector<Settings*> Boundary::allBoundarySettings() const
+{
+    std::vector<Settings*> result;
+    if (volumeModel() != nullptr)
+        appendSettings(result, SettingsType::VolumeSettings);
+    sortOnceById(result);
+    return result;
+}
+
+std::vector<Settings*> Boundary::allShellSettings() const
+{
+    std::vector<Settings*> result;
+    if (m_shellModel)
+        appendSettings(result, SettingsType::ShellSettings);
+    sortOnceById(result);
+    return result;
+}
+
+std::vector<Settings*> Boundary::allInterfaceSettings() const
+{
+    std::vector<Settings*> result;
+    appendInterfaceSettings(result);
+    sortOnceById(result);
+    return result;
+}
+
+std::vector<Settings*> Boundary::allSettings() const
+{
+    std::vector<Settings*> result = allBoundarySettings();
+    if (m_shellModel)
+        appendSettings(result, SettingsType::ShellSettings);
+    appendInterfaceSettings(result);
+    sortOnceById(result);
+    return result;
+}
+
+std::vector<int> Boundary::zoneIds() const
+{
+    std::set<int> zoneIds;
+    for (const gtm::FaceUse* faceUse : faceUses())
+        for (const gtm::ExternalFaceSide& side : faceSides(physics()->locationModel(), faceUse))
+            zoneIds.insert(absoluteZoneId(side.zoneId));
+    return {zoneIds.begin(), zoneIds.end()};
+}
+
+int Boundary::hasExternalRegion() const
+{
+    if (noOfInterfaces() == 0)
+        return isEmpty() ? 0 : 1;
+    std::unordered_set<const gtm::FaceUse*> facing;
+    for (const Interface* interface : interfaces())
+        if (const Boundary* other = interface->otherBoundary(this))
+            for (const gtm::FaceUse* faceUse : other->faceUses())
+                facing.insert(faceUse);
+    for (const gtm::FaceUse* faceUse : faceUses())
+        if (faceUse != nullptr && (faceUse->partner() == nullptr || facing.count(faceUse->partner()) == 0))
+            return 2;
+    return 0;
+}
+
+bool Boundary::relocate(const std::string& location, bool enforceRestrictions)
+{
+    return m_boundary->relocate(location, enforceRestrictions) == gtm::Boundary::State::Valid;
+}
+
+bool Boundary::relocate(const std::vector<gtm::Region*>& regions, bool enforceRestrictions)
+{
+    return m_boundary->relocate(regions, enforceRestrictions) == gtm::Boundary::State::Valid;
+}
+
+bool Boundary::remove(const std::vector<gtm::Region*>& regions) { return m_boundary->remove(regions); }
+
+bool Boundary::destroy()
+{
+    gtm::Interior* interior = m_isDefault ? m_boundary->interior() : nullptr;
+    for (Interface* interface : interfaces())
+        interface->destroy();
+    m_volume->remove(this);
+    if (m_shellModel)
+        m_shellModel->remove(this);
+    m_interfacePatches.clear();
+    m_ownPatch.reset();
+    if (m_isDefault)
+        interior->activateDefaultBoundary(false);
+    else
+        m_boundary->destroy();
+    delete this;
+    return true;
+}
+
+} // namespace physics

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "physics/Export.h"
+#include "physics/Lifetime.h"
+#include "physics/Types.h"
+
+#include <memory>
+#include <string>
+
+namespace physics {
+
+class Boundary;
+class Interface;
+class Model;
+class Settings;
+class Volume;
+
+/// The piece of a boundary that takes part in one interface, or (its interface is null) the piece that
+/// takes part in none. Made and ended by its boundary; the settings of a patch end with it.
+class PHYSICS_EXPORT BoundaryPatch final : public Referable {
+public:
+    int id() const { return m_id; }
+    Boundary* boundary() const { return m_boundary; }
+
+    /// Null for the piece that lies in no interface.
+    Interface* interface() const { return m_interface; }
+    Volume* volume() const;
+    VolumeType volumeType() const;
+
+    /// The boundary's shell type, also when it has no shell model.
+    ShellType shellType() const;
+
+    /// `Unset` without interface.
+    InterfaceType interfaceType() const;
+
+    /// The model that holds the settings of one kind: that of the volume, of the shell, or of the
+    /// interface. Null when there is none, and for a value outside the enumeration.
+    Model* model(SettingsType kind) const;
+
+    /// The settings of one kind, made at the first request; null when there is no model for the kind, and
+    /// for interface settings, which are never made on request.
+    Settings* settings(SettingsType kind) const;
+    Settings* boundarySettings() const;
+    Settings* shellSettings() const;
+    Settings* interfaceSettings() const;
+
+    /// Whether the boundary takes part in any interface: the same answer for all patches of a boundary,
+    /// its own patch included.
+    bool isChild() const;
+
+    /// The patch on the other side of the interface; this patch when the interface has the same boundary
+    /// on both sides; null without interface.
+    BoundaryPatch* pairedPatch() const;
+
+    /// The name of an undivided boundary; else "BOUNDARY - INTERFACE" or "BOUNDARY - NON-OVERLAPPING".
+    std::string name() const;
+
+private:
+    friend class Boundary;
+    friend class Settings;
+    friend struct std::default_delete<BoundaryPatch>;
+
+    static int s_lastUsedId;
+
+    BoundaryPatch(Boundary* boundary, Interface* interface);
+    ~BoundaryPatch();
+
+    const int m_id;
+    Boundary* m_boundary;
+    Interface* m_interface;       // an interface that ends takes its patches along
+    Members<Settings> m_settings; // all that were ever made for this patch, in whichever model
+};
+
+} // namespace physics

@@ -1,0 +1,208 @@
+#include "physics/Interface.h"
+
+#include "physics/Boundary.h"
+#include "physics/BoundaryPatch.h"
+#include "physics/Model.h"
+#include "physics/Physics.h"
+#include "physics/Registry.h"
+#include "physics/Volume.h"
+
+#include "gtm/LocationModel.h"
+
+#include <unordered_set>
+
+namespace physics {
+
+int Interface::s_lastUsedId = 0;
+
+Interface::Interface(Physics* physics, InterfaceType type, Model* model, gtm::Interface* interface, Boundary* first,
+                     Boundary* second)
+    : m_id(nextId(s_lastUsedId)),
+      m_type(type),
+      m_model(model),
+      m_interface(interface),
+      m_physics(physics),
+      m_boundaries{first, second}
+{
+    try {
+        first->addToInterface(this);
+        second->addToInterface(this);
+        model->add(this);
+        physics->registry().add(this);
+    } catch (...) {
+        leaveBoundaries();
+        throw;
+    }
+}
+
+std::string Interface::name() const { return hasEnded() ? std::string() : m_interface->name(); }
+std::string Interface::fullName() const { return name(); }
+
+State Interface::state() const
+{
+    return hasEnded() ? State::Unresolvable : State(static_cast<int>(m_interface->state()));
+}
+
+bool Interface::isActive() const { return !hasEnded() && m_boundaries[0]->isActive() && m_boundaries[1]->isActive(); }
+
+bool Interface::isEmpty() const { return hasEnded() || (m_boundaries[0]->isEmpty() && m_boundaries[1]->isEmpty()); }
+
+std::string Interface::rename(const std::string& name)
+{
+    return hasEnded() ? std::string() : m_interface->rename(name);
+}
+
+Model* Interface::model() const { return m_model.get(); }
+
+Boundary* Interface::boundary(Side side) const { return m_boundaries[side == Side::First ? 0 : 1]; }
+
+Volume* Interface::volume(Side side) const
+{
+    const Boundary* ofSide = boundary(side);
+    return ofSide == nullptr ? nullptr : ofSide->volume();
+}
+
+Boundary* Interface::otherBoundary(const Boundary* boundary) const
+{
+    if (boundary == nullptr)
+        return nullptr;
+    if (boundary == m_boundaries[0])
+        return m_boundaries[1];
+    return boundary == m_boundaries[1] ? m_boundaries[0] : nullptr;
+}
+
+Settings* Interface::settings() const { return m_model ? m_model->settings(this) : nullptr; }
+
+Settings* Interface::boundarySettings(Side side) const
+{
+    const Boundary* ofSide = boundary(side);
+    return ofSide == nullptr ? nullptr : ofSide->boundarySettings(this);
+}
+
+Settings* Interface::boundaryShellSettings(Side side) const
+{
+    const Boundary* ofSide = boundary(side);
+    return ofSide == nullptr ? nullptr : ofSide->shellSettings(this);
+}
+
+Settings* Interface::boundaryInterfaceSettings(Side side) const
+{
+    const Boundary* ofSide = boundary(side);
+    return ofSide == nullptr ? nullptr : ofSide->interfaceSettings(this);
+}
+
+Settings* Interface::volumeSettings(Side side) const
+{
+    const Volume* ofSide = volume(side);
+    return ofSide == nullptr ? nullptr : ofSide->settings();
+}
+
+std::vector<BoundaryType> Interface::allowedBoundaryTypes(VolumeType volumeType) const
+{
+    return m_physics->allowedBoundaryTypes(m_type, volumeType);
+}
+
+bool Interface::isAllowedBoundaryType(VolumeType volumeType, BoundaryType boundaryType) const
+{
+    return m_physics->isAllowedBoundaryType(m_type, volumeType, boundaryType);
+}
+
+void Interface::setTranslationalPeriodicity(const std::array<double, 3>& offset)
+{
+    m_periodicity = Periodicity::TranslationallyPeriodic;
+    m_offset = offset;
+}
+
+void Interface::setRotationalPeriodicity(double angle, const std::array<double, 3>& origin,
+                                         const std::array<double, 3>& direction)
+{
+    m_periodicity = Periodicity::RotationallyPeriodic;
+    m_angle = angle;
+    m_origin = origin;
+    m_direction = direction;
+}
+
+Connectivity Interface::connectivity() const
+{
+    if (hasEnded())
+        return Connectivity::None;
+    const std::vector<gtm::FaceUse*> firstSide = m_boundaries[0]->faceUses();
+    const std::unordered_set<const gtm::FaceUse*> first(firstSide.begin(), firstSide.end());
+    std::size_t matched = 0;
+    std::size_t unmatched = 0;
+    for (const gtm::FaceUse* faceUse : m_boundaries[1]->faceUses()) {
+        if (faceUse == nullptr)
+            continue;
+        const gtm::FaceUse* partner = faceUse->partner();
+        const bool isMatched = partner != nullptr && first.count(partner) > 0;
+        ++(isMatched ? matched : unmatched);
+    }
+    if (unmatched == 0 && matched == first.size())
+        return Connectivity::Total;
+    return matched > 0 ? Connectivity::Partial : Connectivity::None;
+}
+
+bool Interface::setModel(Model* model)
+{
+    if (model == nullptr || hasEnded() || model->physics() != m_physics)
+        return false;
+    if (m_model)
+        m_model->move(this, model);
+    else
+        model->add(this);
+    m_model = model;
+    return true;
+}
+
+bool Interface::relocate(Boundary* first, Boundary* second, bool enforceRestrictions)
+{
+    if (hasEnded() || first == nullptr || second == nullptr || m_physics->isForeign(first) ||
+        m_physics->isForeign(second))
+        return false;
+    const gtm::Interface::State state =
+        m_interface->relocate({{first->boundary()}, {second->boundary()}}, enforceRestrictions);
+    const bool isValid = state == gtm::Interface::State::Valid;
+    if (enforceRestrictions && !isValid)
+        return false;
+    rebind({first, second});
+    m_isMeshValid = false;
+    return isValid;
+}
+
+/// Every boundary that is on a side afterwards has a patch for this interface, and no other has one. Side
+/// by side, so that patch ids are drawn in a fixed order; a boundary that only changes sides keeps its patch.
+void Interface::rebind(const std::array<Boundary*, 2>& sides)
+{
+    const std::array<Boundary*, 2> before = m_boundaries;
+    m_boundaries = sides;
+    for (std::size_t side = 0; side < 2; ++side) {
+        if (before[side] != sides[0] && before[side] != sides[1])
+            before[side]->removeFromInterface(this);
+        if (sides[side]->patch(this) == nullptr)
+            sides[side]->addToInterface(this);
+    }
+}
+
+void Interface::leaveBoundaries()
+{
+    for (Boundary* boundary : m_boundaries)
+        boundary->removeFromInterface(this);
+}
+
+void Interface::destroy()
+{
+    if (hasEnded())
+        return;
+    if (m_model)
+        m_model->remove(this);
+    m_physics->registry().remove(this);
+    leaveBoundaries();
+    m_interface->destroy();
+    m_interface = nullptr;
+    m_boundaries = {nullptr, nullptr};
+    m_model = nullptr;
+    endReferences();
+    m_physics->registry().keepEnded(this);
+}
+
+} // namespace physics

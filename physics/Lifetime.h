@@ -1,0 +1,282 @@
+#pragma once
+
+#include "physics/NonCopyable.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+// How the objects of a set-up point at each other without ever pointing at something that ended.
+//
+// Every pointer that does not own its target is either a `Link`, which answers null once the target
+// has ended, or an entry of an `Index`, which vanishes with it. Both are `References`: each object
+// knows the references to it and ends them when it ends, without a search. What owns an object is said
+// in the comment of its class; that something has been taken out of every index never frees it.
+
+namespace physics {
+
+class Referable;
+
+/// Draws the next id of a class. Wraps around rather than overflows: a restored text may have set the
+/// counter to any value.
+inline int nextId(int& lastUsedId)
+{
+    lastUsedId = static_cast<int>(static_cast<unsigned>(lastUsedId) + 1U);
+    return lastUsedId;
+}
+
+/// One pointer to an object that may end before the pointer does.
+class Reference : private NonCopyable {
+protected:
+    Reference() = default;
+    ~Reference() { refer(nullptr); }
+
+    Referable* target() const { return m_target; }
+
+    /// Points at another target, or at none.
+    inline void refer(Referable* target);
+
+private:
+    friend class Referable;
+
+    /// The target has ended and `target()` is null. May end this reference.
+    virtual void targetEnded() {}
+
+    Referable* m_target = nullptr;
+    Reference* m_previous = nullptr;
+    Reference* m_next = nullptr;
+};
+
+/// Base of every object that links and indexes point at.
+class Referable : private NonCopyable {
+protected:
+    Referable() : m_serial(++s_lastSerial) {}
+    ~Referable() { endReferences(); }
+
+    /// Makes every link to this object answer null and every index entry that names it vanish. The
+    /// destructor does so too; an object that stays allocated after it ended calls it then.
+    void endReferences()
+    {
+        while (Reference* reference = m_first) {
+            reference->refer(nullptr);
+            reference->targetEnded();
+        }
+    }
+
+private:
+    friend class Reference;
+    template <class T>
+    friend bool precedes(const T* left, const T* right);
+
+    static inline std::uint64_t s_lastSerial = 0;
+
+    Reference* m_first = nullptr;
+    const std::uint64_t m_serial; // order of creation in this process
+};
+
+void Reference::refer(Referable* target)
+{
+    if (m_target != nullptr) {
+        (m_previous != nullptr ? m_previous->m_next : m_target->m_first) = m_next;
+        if (m_next != nullptr)
+            m_next->m_previous = m_previous;
+    }
+    m_target = target;
+    m_previous = nullptr;
+    m_next = nullptr;
+    if (target != nullptr) {
+        m_next = target->m_first;
+        if (m_next != nullptr)
+            m_next->m_previous = this;
+        target->m_first = this;
+    }
+}
+
+/// The order of all lists for which no other is required: null first, then by id. Two live objects can
+/// share an id when a restored text turned a counter back; then the older one comes first.
+template <class T>
+bool precedes(const T* left, const T* right)
+{
+    if (left == nullptr || right == nullptr)
+        return left == nullptr && right != nullptr;
+    if (left->id() != right->id())
+        return left->id() < right->id();
+    return left->m_serial < right->m_serial;
+}
+
+template <class T>
+void sortById(std::vector<T*>& objects)
+{
+    std::sort(objects.begin(), objects.end(), [](const T* left, const T* right) { return precedes(left, right); });
+}
+
+/// Sorted by id, each object once.
+template <class T>
+void sortOnceById(std::vector<T*>& objects)
+{
+    sortById(objects);
+    objects.erase(std::unique(objects.begin(), objects.end()), objects.end());
+}
+
+/// A pointer that owns nothing and answers null once its target has ended.
+template <class T>
+class Link : private Reference {
+public:
+    Link() = default;
+    explicit Link(T* target) { refer(target); }
+    Link& operator=(T* target)
+    {
+        refer(target);
+        return *this;
+    }
+
+    T* get() const { return static_cast<T*>(target()); }
+    T* operator->() const { return get(); }
+    explicit operator bool() const { return target() != nullptr; }
+};
+
+/// A map from keys to objects that owns nothing; an entry vanishes when its object ends. Every change
+/// and look-up costs as much as in the underlying map, whose nodes must not move.
+template <class Map, class T>
+class BasicIndex : private NonCopyable {
+public:
+    using Key = typename Map::key_type;
+
+    /// The object under the key, or null. A key that is a pointer is not dereferenced.
+    T* find(const Key& key) const
+    {
+        const auto entry = m_entries.find(key);
+        return entry == m_entries.end() ? nullptr : entry->second.object();
+    }
+
+    bool contains(const Key& key) const { return m_entries.find(key) != m_entries.end(); }
+    std::size_t size() const { return m_entries.size(); }
+    bool isEmpty() const { return m_entries.empty(); }
+
+    /// Puts the object under the key; whatever was there before is no longer found under it.
+    void put(const Key& key, T* object)
+    {
+        const auto entry = m_entries.try_emplace(key).first;
+        entry->second.enter(this, &entry->first, object);
+    }
+
+    /// Forgets the key, whichever object it names.
+    void erase(const Key& key) { m_entries.erase(key); }
+
+    void clear() { m_entries.clear(); }
+
+    /// The objects in the order of the map.
+    std::vector<T*> objects() const
+    {
+        std::vector<T*> result;
+        result.reserve(m_entries.size());
+        for (const auto& entry : m_entries)
+            result.push_back(entry.second.object());
+        return result;
+    }
+
+    /// Keys with their objects, in the order of the map.
+    std::vector<std::pair<Key, T*>> entries() const
+    {
+        std::vector<std::pair<Key, T*>> result;
+        result.reserve(m_entries.size());
+        for (const auto& entry : m_entries)
+            result.emplace_back(entry.first, entry.second.object());
+        return result;
+    }
+
+    /// The first object in the order of the map, or null.
+    T* first() const { return m_entries.empty() ? nullptr : m_entries.begin()->second.object(); }
+
+private:
+    class Entry final : private Reference {
+    public:
+        T* object() const { return static_cast<T*>(target()); }
+        void enter(BasicIndex* index, const Key* key, T* object)
+        {
+            m_index = index;
+            m_key = key;
+            refer(object);
+        }
+
+    private:
+        void targetEnded() override { m_index->m_entries.erase(m_index->m_entries.find(*m_key)); }
+
+        BasicIndex* m_index = nullptr;
+        const Key* m_key = nullptr;
+    };
+
+    using Entries = typename Map::template With<Entry>;
+    Entries m_entries;
+};
+
+/// Selects an ordered map, for keys whose order is the order of a list.
+template <class K>
+struct Ordered {
+    using key_type = K;
+    template <class Entry>
+    using With = std::map<K, Entry>;
+};
+
+/// Selects a hashed map, for keys that are pointers: their order means nothing.
+template <class K>
+struct Hashed {
+    using key_type = K;
+    template <class Entry>
+    using With = std::unordered_map<K, Entry>;
+};
+
+template <class Key, class T>
+using Index = BasicIndex<Ordered<Key>, T>;
+
+/// An index by the address of another object. The key objects outlive their entries.
+template <class K, class T>
+class PointerIndex : public BasicIndex<Hashed<const K*>, T> {
+public:
+    /// Keys with their objects, in the order of the keys' ids.
+    std::vector<std::pair<const K*, T*>> entriesById() const
+    {
+        auto result = this->entries();
+        std::sort(result.begin(), result.end(),
+                  [](const auto& left, const auto& right) { return precedes(left.first, right.first); });
+        return result;
+    }
+
+    /// The objects, in the order of the keys' ids.
+    std::vector<T*> objectsById() const
+    {
+        std::vector<T*> result;
+        for (const auto& entry : entriesById())
+            result.push_back(entry.second);
+        return result;
+    }
+};
+
+/// A set of objects that owns nothing; an object leaves it when it ends.
+template <class T>
+class Members : private PointerIndex<T, T> {
+public:
+    using PointerIndex<T, T>::contains;
+    using PointerIndex<T, T>::erase;
+    using PointerIndex<T, T>::isEmpty;
+    using PointerIndex<T, T>::size;
+
+    void insert(T* object) { this->put(object, object); }
+
+    /// The member at this address, or null. The address is not dereferenced.
+    T* find(const T* object) const { return PointerIndex<T, T>::find(object); }
+
+    /// In the order of ids.
+    std::vector<T*> byId() const
+    {
+        std::vector<T*> result = this->objects();
+        sortById(result);
+        return result;
+    }
+};
+
+} // namespace physics

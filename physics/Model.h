@@ -1,0 +1,156 @@
+#pragma once
+
+#include "physics/Export.h"
+#include "physics/Lifetime.h"
+#include "physics/Types.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace physics {
+
+class Boundary;
+class BoundaryPatch;
+class Interface;
+class Physics;
+class Settings;
+class Volume;
+
+/// One physics model of a set-up: its domains, the volumes, shells and interfaces that belong to it, and
+/// the place where their settings are found.
+///
+/// Made by `Physics::createModel`; ended by `destroy` or with its `Physics`. It owns its domains only:
+/// members that outlive it have no model, and their settings stay findable by id, thread and zone.
+class PHYSICS_EXPORT Model final : public Referable {
+public:
+    int id() const { return m_id; }
+    Physics* physics() const { return m_physics; }
+
+    /// Adds a domain or replaces the one with the same id. Nothing is checked. A new model has the domain
+    /// 1, `DomainType::Geometry`, "Default".
+    void addDomain(int id, DomainType type, const std::string& name);
+
+    /// False when there is no such domain. Thread bundles go on listing the id.
+    bool removeDomain(int id);
+
+    /// Ascending.
+    std::vector<int> domainIds() const;
+    std::vector<int> domainIdsOfType(DomainType type) const;
+
+    /// Empty for an unknown id.
+    std::string domainName(int id) const;
+
+    /// The name as a symbol of the solver's Scheme language; empty for an unknown id.
+    std::string domainSymbol(int id) const;
+
+    /// `Unset` for an unknown id.
+    DomainType domainType(int id) const;
+
+    // The settings of a member, made at the first request; null for what is not a member of this model,
+    // which may have ended.
+    Settings* settings(const Volume* volume);
+    Settings* internalSettings(const Volume* volume);
+    Settings* settings(const Interface* interface);
+
+    /// The settings of one kind that this model keeps for a patch, made at the first request, whether or
+    /// not the patch belongs here. Null for interface settings, which are never made on request; for shell
+    /// settings when the boundary has no shell model; and for a null patch or one of another set-up. A
+    /// value outside the enumeration makes a new object at each call, found by its id only.
+    Settings* settings(const BoundaryPatch* patch, SettingsType kind);
+
+    // Members by id; none of these makes settings.
+    std::vector<Volume*> volumes() const;
+    std::vector<Interface*> interfaces() const;
+
+    /// The boundaries of the volumes, those whose shell is here, and both sides of the interfaces: each
+    /// once, by id.
+    std::vector<Boundary*> boundaries() const;
+
+    /// The patches of `boundaries()`, by id.
+    std::vector<BoundaryPatch*> boundaryPatches() const;
+
+    // The settings made so far, by the id of the object that they belong to.
+    std::vector<Settings*> volumeSettings() const;
+    std::vector<Settings*> internalSettings() const;
+    std::vector<Settings*> interfaceSettings() const;
+
+    /// Volume side, then shell side, then interface side; each by the id of the patch.
+    std::vector<Settings*> boundaryPatchSettings() const;
+
+    /// Those of one boundary, in the order of its patches; empty for null.
+    std::vector<Settings*> volumeSettings(const Boundary* boundary) const;
+    std::vector<Settings*> shellSettings(const Boundary* boundary) const;
+
+    /// All settings held here, by their ids.
+    std::vector<Settings*> settings() const;
+
+    /// Ends the model. Its volumes, shells and interfaces live on without a model. The pointer is dead
+    /// afterwards.
+    void destroy();
+
+private:
+    friend class Boundary;
+    friend class BoundaryPatch;
+    friend class Interface;
+    friend class Physics;
+    friend class Registry;
+    friend class Volume;
+
+    struct Domain {
+        DomainType type;
+        std::string name;
+        std::string symbol;
+    };
+    using PatchSettings = PointerIndex<BoundaryPatch, Settings>;
+
+    static int s_lastUsedId;
+
+    explicit Model(Physics* physics);
+    ~Model() = default;
+
+    void add(Volume* volume);
+    void add(Boundary* boundary);
+    void add(Interface* interface);
+    void addVolumeBoundary(Boundary* boundary);
+    void remove(Volume* volume);
+    void remove(Boundary* boundary);
+    void remove(Interface* interface);
+    void removeVolumeBoundary(Boundary* boundary);
+    void move(Volume* volume, Model* target);
+    void move(Boundary* boundary, Model* target);
+    void move(Interface* interface, Model* target);
+
+    /// Ends the settings of one kind that this model keeps for a patch, if there are any.
+    void deleteBoundaryPatchSettings(const BoundaryPatch* patch, SettingsType kind);
+
+    /// Hands one settings object over to the same map of another model.
+    template <class K>
+    void moveSettings(PointerIndex<K, Settings> Model::*map, const K* key, Model* target);
+
+    template <class K>
+    Settings* keep(PointerIndex<K, Settings>& map, const K* key, Settings* settings);
+
+    /// The map for a kind of patch settings, or null for a value outside the enumeration.
+    static PatchSettings Model::*patchSettingsMap(SettingsType kind);
+    static bool isPatchKind(SettingsType kind);
+
+    /// The patches of both sides, each once.
+    static std::vector<const BoundaryPatch*> patchesOf(const Interface* interface);
+    std::vector<Settings*> patchSettings(const Boundary* boundary, const PatchSettings& map) const;
+
+    const int m_id;
+    Physics* const m_physics;
+    Members<Volume> m_volumes;
+    Members<Boundary> m_boundaries; // those whose shell model this is
+    Members<Interface> m_interfaces;
+    PointerIndex<Volume, Settings> m_volumeSettings;
+    PointerIndex<Volume, Settings> m_internalSettings;
+    PatchSettings m_patchVolumeSettings;
+    PatchSettings m_patchShellSettings;
+    PatchSettings m_patchInterfaceSettings;
+    PointerIndex<Interface, Settings> m_interfaceSettings;
+    std::map<int, Domain> m_domains;
+};
+
+} // namespace physics

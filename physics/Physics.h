@@ -1,0 +1,306 @@
+#pragma once
+
+#include "physics/Export.h"
+#include "physics/NonCopyable.h"
+#include "physics/TypeManager.h"
+#include "physics/Types.h"
+
+#include "gtm/VirtualTopology.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace gtm {
+class Body;
+class Face;
+class FaceUse;
+class Model;
+class Part;
+class Region;
+} // namespace gtm
+
+namespace physics {
+
+class Boundary;
+class BoundaryPatch;
+class Interface;
+class Model;
+class Registry;
+class Settings;
+class ThreadBundle;
+class Volume;
+
+/// The physics set-up of one case, over one location model.
+///
+/// It makes and owns every object of the set-up, finds and lists them, and holds the vocabulary tables,
+/// the mask and the activation groups. Lists are new vectors of pointers to objects that stay owned here.
+/// Nothing throws on its own account: refusals are null, false, -1 or empty, as each member says; null
+/// arguments and objects of another `Physics` are refused before anything changes. Not safe for use from
+/// two threads at once, nor are two set-ups: ids come from counters that all set-ups of a process share.
+class PHYSICS_EXPORT Physics : private NonCopyable {
+public:
+    /// Builds an empty set-up. The location model is not owned and must outlive it. With
+    /// `enforceRestrictions` the location model is asked to refuse whatever would not be valid.
+    Physics(const gtm::Model* locationModel, bool enforceRestrictions);
+
+    /// Ends every object, and the interiors, boundaries and interfaces under them.
+    ~Physics();
+
+    const gtm::Model* locationModel() const { return m_locationModel; }
+
+    /// The working copy of the topology in which the set-up lies. Change it only through the set-up.
+    const gtm::VirtualTopology& virtualTopology() const { return m_virtualTopology; }
+
+    /// Whether later creations are to be refused unless they are valid; it does not change the type tables.
+    bool enforceRestrictions() const { return m_enforceRestrictions; }
+    void setEnforceRestrictions(bool value) { m_enforceRestrictions = value; }
+
+    /// Ends every object but ended interfaces, which stay readable, drops the activation groups and unmasks
+    /// the bodies of every part. Flags, type tables and the id counters stay: ids go on. All pointers to
+    /// objects are dead afterwards, but those to interfaces.
+    void clear();
+
+    // ---- Creation. A null model stands for the primary model. Null when the location model refuses, and
+    // ---- then nothing has changed; where the set-up reports failures, a message goes to standard output.
+
+    /// Makes a model with its "Default" domain.
+    Model* createModel();
+
+    /// The model with the smallest id; made if there is none.
+    Model* primaryModel();
+
+    /// Makes a volume at a location. A braced empty list is ambiguous: spell its type.
+    Volume* createVolume(const std::string& name, const std::string& location, VolumeType type, Model* model = nullptr);
+    Volume* createVolume(const std::string& name, const std::vector<gtm::Region*>& regions, VolumeType type,
+                         Model* model = nullptr);
+
+    /// Makes a volume of every body that no other volume uses. Each call makes another volume on the one
+    /// default interior; `defaultVolume` is the last of them. Null only if the location model has none.
+    Volume* createDefaultVolume(const std::string& name, VolumeType type, Model* model = nullptr);
+
+    /// Joins two boundaries of this set-up.
+    Interface* createInterface(const std::string& name, Boundary* first, Boundary* second, InterfaceType type,
+                               Model* model = nullptr);
+    Interface* createTranslationallyPeriodicInterface(const std::string& name, Boundary* first, Boundary* second,
+                                                      const std::array<double, 3>& offset, InterfaceType type,
+                                                      Model* model = nullptr);
+    Interface* createRotationallyPeriodicInterface(const std::string& name, Boundary* first, Boundary* second,
+                                                   double angle, const std::array<double, 3>& origin,
+                                                   const std::array<double, 3>& direction, InterfaceType type,
+                                                   Model* model = nullptr);
+
+    // ---- Look-ups; null when there is no such object.
+
+    /// The last default volume that was made, or null.
+    Volume* defaultVolume() const;
+    bool hasDefaultVolume() const { return defaultVolume() != nullptr; }
+
+    Volume* findVolumeById(int id) const;
+    Boundary* findBoundaryById(int id) const;
+    Interface* findInterfaceById(int id) const;
+    Model* findModelById(int id) const;
+    Settings* findSettingsById(int id) const;
+
+    /// By the thread id with which the bundle was made; of several, the last. Null for a negative id.
+    ThreadBundle* findThreadBundleByThreadId(int id) const;
+    Settings* findSettingsByThreadId(int id) const;
+
+    /// By a zone that the bundle took, or inherited when it was made; of several, the last. The sign counts.
+    ThreadBundle* findThreadBundleByZoneId(int id) const;
+    Settings* findSettingsByZoneId(int id) const;
+
+    // ---- Lists.
+
+    /// Volumes and interfaces in ascending byte order of their names at creation. Of two with equal names
+    /// the newer is listed; the other lives on and is found by its id.
+    std::vector<Volume*> volumes() const;
+    std::vector<Interface*> interfaces() const;
+
+    /// By id.
+    std::vector<Model*> models() const;
+
+    /// Volume by volume, each in the volume's own order.
+    std::vector<Boundary*> boundaries() const;
+
+    /// Model by model, each by id; and their bundles, by index.
+    std::vector<Settings*> settings() const;
+    std::vector<ThreadBundle*> threadBundles() const;
+
+    /// The thread ids of those bundles, ascending, each once.
+    std::vector<int> threadIds() const;
+
+    /// The zones that those bundles report, without their signs, ascending, each once.
+    std::vector<int> zoneIds() const;
+
+    // ---- Changes over the whole set-up.
+
+    /// Takes regions out of every volume, then out of every boundary; true when any of them changed.
+    bool removeRegions(const std::vector<gtm::Region*>& regions);
+
+    /// Deactivates volumes together as a new group and returns its number, the smallest that is free; -1,
+    /// changing nothing, when one is inactive already. No volumes make an empty group.
+    int deactivateVolumes(const std::vector<Volume*>& volumes);
+
+    /// Re-activates every volume of a group and drops the group; false when there is none.
+    bool activateGroup(int group);
+
+    /// Re-activates the groups of the given volumes; false, changing nothing, when one is active already.
+    bool activateVolumes(const std::vector<Volume*>& volumes);
+
+    /// Ascending.
+    std::vector<int> activationGroups() const;
+
+    /// In the order in which they were given, without those that ended; empty when there is no such group.
+    std::vector<Volume*> activationGroupVolumes(int group) const;
+
+    // ---- The mask: bodies that the location model treats as absent. A part counts as masked when it has
+    // ---- bodies and all are masked. Lists come in the order of the location model.
+
+    void maskBodies(const std::vector<gtm::Body*>& bodies);
+    void unmaskBodies(const std::vector<gtm::Body*>& bodies);
+    void setMaskedBodies(const std::vector<gtm::Body*>& bodies);
+    void maskParts(const std::vector<gtm::Part*>& parts);
+    void unmaskParts(const std::vector<gtm::Part*>& parts);
+    void setMaskedParts(const std::vector<gtm::Part*>& parts);
+    bool isMasked(gtm::Body* body) const;
+    bool isMasked(gtm::Face* face) const;
+    bool isMasked(gtm::FaceUse* faceUse) const;
+    bool isMasked(gtm::Part* part) const;
+    std::vector<gtm::Body*> maskedBodies() const;
+    std::vector<gtm::Body*> unmaskedBodies() const;
+    std::vector<gtm::Face*> maskedFaces() const;
+    std::vector<gtm::Face*> unmaskedFaces() const;
+    std::vector<gtm::FaceUse*> maskedFaceUses() const;
+    std::vector<gtm::FaceUse*> unmaskedFaceUses() const;
+    std::vector<gtm::Part*> maskedParts() const;
+    std::vector<gtm::Part*> unmaskedParts() const;
+
+    /// The unmasked bodies that no volume uses.
+    std::vector<gtm::Body*> unusedBodies() const;
+
+    // ---- Names of types. Only the enumerations with a specialisation below have one.
+
+    /// The name that reports print; empty for a value outside the enumeration.
+    template <class E>
+    std::string typeToName(E value) const = delete;
+
+    /// The name in the solver's Scheme command language; the prefix alone for a value outside.
+    template <class E>
+    std::string typeToSchemeName(E value) const = delete;
+
+    /// The solver's number for a thread type; -1 for `Unset` and unknown types.
+    int threadTypeToSolverThreadType(ThreadType type) const;
+
+    // ---- Which types may be used where: what the members of the same names of `TypeManager` answer.
+
+    std::vector<VolumeType> allowedVolumeTypes();
+    std::vector<InterfaceType> allowedInterfaceTypes();
+    std::vector<ShellType> allowedShellTypes();
+    std::vector<ThreadType> allowedThreadTypes();
+    std::vector<DomainType> allowedDomainTypes();
+    std::vector<BoundaryTag> allowedBoundaryTags();
+    std::vector<Periodicity> allowedPeriodicities();
+    std::vector<Connectivity> allowedConnectivities();
+    std::vector<MeshConnectivity> allowedMeshConnectivities();
+    std::vector<BoundaryType> allowedBoundaryTypes();
+    std::vector<BoundaryType> allowedBoundaryTypes(VolumeType volumeType);
+    std::vector<BoundaryType> allowedBoundaryTypes(InterfaceType interfaceType, VolumeType volumeType);
+    std::vector<BoundaryType> allowedBoundaryTypes(ShellType shellType);
+    std::vector<InterfaceType> allowedInterfaceTypes(BoundaryType boundaryType, VolumeType volumeType);
+    std::vector<ShellType> allowedShellTypes(BoundaryType boundaryType);
+    std::vector<BoundaryType> allowedInternalBoundaryTypes();
+    std::vector<BoundaryType> allowedExternalBoundaryTypes();
+    BoundaryType defaultBoundaryType(VolumeType volumeType);
+    bool isAllowedBoundaryType(VolumeType volumeType, BoundaryType boundaryType) const;
+    bool isAllowedBoundaryType(InterfaceType interfaceType, VolumeType volumeType, BoundaryType boundaryType) const;
+    bool isAllowedInterfaceType(BoundaryType boundaryType, VolumeType volumeType, InterfaceType interfaceType) const;
+    bool isAllowedShellType(BoundaryType boundaryType, ShellType shellType) const;
+    bool isInternalBoundaryType(BoundaryType boundaryType) const;
+    bool isSharedInterfaceType(InterfaceType interfaceType) const;
+
+private:
+    friend class Boundary;
+    friend class Interface;
+    friend class Model;
+    friend class Settings;
+    friend class ThreadBundle;
+    friend class Volume;
+
+    template <class Where>
+    Volume* createVolumeAt(const std::string& name, const Where& where, VolumeType type, Model* model);
+    Volume* constructVolume(VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
+
+    /// The model to use for one that was asked for: the primary model for null.
+    Model* modelOrPrimary(Model* model) { return model != nullptr ? model : primaryModel(); }
+    bool isForeign(const Model* model) const;
+    bool isForeign(const Boundary* boundary) const;
+
+    /// The volume registered under the name of an interior, or null.
+    Volume* find(const gtm::Interior* interior) const;
+    Boundary* find(const gtm::Boundary* boundary) const;
+
+    /// Whether all are volumes of this set-up and all active, or all inactive.
+    bool areOurs(const std::vector<Volume*>& volumes, bool active) const;
+
+    std::vector<gtm::Part*> partsThatAre(bool masked) const;
+    std::vector<BoundaryPatch*> boundaryPatches() const;
+    Registry& registry() { return *m_registry; }
+    bool reportsFailures() const { return m_reportCreationFailures; }
+
+    // The objects in the registry end first, and the working copy of the topology last.
+    const gtm::Model* const m_locationModel;
+    gtm::VirtualTopology m_virtualTopology;
+    bool m_enforceRestrictions;
+    bool m_reportCreationFailures = false; // written and read with the set-up; no setter
+    TypeManager m_typeManager;
+    std::unique_ptr<Registry> m_registry;
+};
+
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(BoundaryTag value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(BoundaryType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(Connectivity value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(DomainType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(InterfaceType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(MeshConnectivity value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(Periodicity value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(SettingsType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(ShellType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(ThreadType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(TopologyType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToName(VolumeType value) const;
+
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(BoundaryTag value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(BoundaryType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(Connectivity value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(DomainType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(InterfaceType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(MeshConnectivity value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(ShellType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(ThreadType value) const;
+template <>
+PHYSICS_EXPORT std::string Physics::typeToSchemeName(VolumeType value) const;
+
+} // namespace physics

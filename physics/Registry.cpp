@@ -1,0 +1,131 @@
+#include "physics/Registry.h"
+
+#include "physics/Boundary.h"
+#include "physics/Interface.h"
+#include "physics/Model.h"
+#include "physics/Settings.h"
+#include "physics/ThreadBundle.h"
+#include "physics/Volume.h"
+
+namespace physics {
+
+Registry::~Registry()
+{
+    for (Interface* interface : m_endedInterfaces)
+        delete interface;
+}
+
+void Registry::add(Model* model)
+{
+    m_models.insert(model);
+    models.put(model->id(), model);
+}
+
+void Registry::add(Volume* volume)
+{
+    m_volumes.insert(volume);
+    volumesByName.put(volume->name(), volume);
+    volumes.put(volume->id(), volume);
+    if (volume->isDefaultVolume())
+        defaultVolume = volume;
+}
+
+void Registry::add(Boundary* boundary)
+{
+    boundaries.put(boundary->id(), boundary);
+    boundariesByLocation.put(boundary->boundary(), boundary);
+}
+
+void Registry::add(Interface* interface)
+{
+    m_interfaces.insert(interface);
+    interfacesByName.put(interface->name(), interface);
+    interfaces.put(interface->id(), interface);
+}
+
+void Registry::add(Settings* object)
+{
+    m_settings.insert(object);
+    settings.put(object->id(), object);
+    for (ThreadBundle* bundle : object->threadBundles())
+        add(bundle);
+}
+
+void Registry::add(ThreadBundle* bundle)
+{
+    bundlesByThreadId.put(bundle->threadId(), bundle);
+    addZones(bundle, bundle->zoneIds());
+}
+
+void Registry::addZones(ThreadBundle* bundle, const std::vector<int>& zoneIds)
+{
+    for (const int zoneId : zoneIds)
+        bundlesByZoneId.put(zoneId, bundle);
+}
+
+void Registry::remove(Model* model) { models.erase(model->id()); }
+
+void Registry::remove(Volume* volume)
+{
+    volumesByName.erase(volume->name());
+    volumes.erase(volume->id());
+    if (defaultVolume.get() == volume)
+        defaultVolume = nullptr;
+}
+
+void Registry::remove(Boundary* boundary)
+{
+    boundaries.erase(boundary->id());
+    boundariesByLocation.erase(boundary->boundary());
+}
+
+void Registry::remove(Interface* interface)
+{
+    interfacesByName.erase(interface->name());
+    interfaces.erase(interface->id());
+}
+
+void Registry::remove(Settings* object)
+{
+    for (ThreadBundle* bundle : object->threadBundles())
+        remove(bundle);
+    settings.erase(object->id());
+}
+
+void Registry::remove(ThreadBundle* bundle)
+{
+    removeZones(bundle);
+    bundlesByThreadId.erase(bundle->threadId());
+}
+
+/// Releases the zones that the bundle reports now, also those that another bundle has taken since.
+void Registry::removeZones(ThreadBundle* bundle)
+{
+    for (const int zoneId : bundle->zoneIds())
+        bundlesByZoneId.erase(zoneId);
+}
+
+void Registry::clear()
+{
+    activationGroups.clear();
+
+    // Listed objects in the order of their lists, then what an index has lost, by id.
+    for (Interface* interface : interfacesByName.objects())
+        interface->destroy();
+    for (Interface* interface : m_interfaces.byId())
+        interface->destroy();
+    for (Volume* volume : volumesByName.objects())
+        volume->destroy();
+    for (Volume* volume : m_volumes.byId())
+        volume->destroy();
+    for (Model* model : models.objects())
+        model->destroy();
+    for (Model* model : m_models.byId())
+        model->destroy();
+    for (Settings* detached : m_settings.byId())
+        delete detached;
+
+    // Empty by now: every entry has gone with its object.
+}
+
+} // namespace physics

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "physics/ActivationGroups.h"
+#include "physics/Lifetime.h"
+
+#include <string>
+#include <vector>
+
+namespace gtm {
+class Boundary;
+}
+
+namespace physics {
+
+class Boundary;
+class Interface;
+class Model;
+class Settings;
+class ThreadBundle;
+class Volume;
+
+/// The objects of one set-up: who owns them, and the indexes by which they are found and listed.
+///
+/// Owning and finding are kept apart. An index can lose a live object, when another is registered under
+/// its key or erased under its present name, and the text says so of renamed, equally named and
+/// renumbered objects; the object stays owned all the same and ends with the set-up. Removing an object
+/// first erases its present keys, whichever object they name by then, as hosts have come to rely on;
+/// every entry that still names the object vanishes when it ends.
+class Registry : private NonCopyable {
+public:
+    Registry() = default;
+    ~Registry();
+
+    // Registering is an insert or overwrite under each key; doing it twice changes nothing.
+    void add(Model* model);
+    void add(Volume* volume);
+    void add(Boundary* boundary);
+    void add(Interface* interface);
+    void add(Settings* settings);
+    void add(ThreadBundle* bundle);
+    void addZones(ThreadBundle* bundle, const std::vector<int>& zoneIds);
+
+    // Taking out of the indexes; nothing is ended.
+    void remove(Model* model);
+    void remove(Volume* volume);
+    void remove(Boundary* boundary);
+    void remove(Interface* interface);
+    void remove(Settings* settings);
+    void remove(ThreadBundle* bundle);
+    void removeZones(ThreadBundle* bundle);
+
+    /// Takes over an interface that has ended, to free it with the set-up.
+    void keepEnded(Interface* interface) { m_endedInterfaces.push_back(interface); }
+
+    /// Ends every object, listed or not, and empties the indexes. Ended interfaces stay allocated.
+    void clear();
+
+    Index<std::string, Volume> volumesByName;
+    Index<std::string, Interface> interfacesByName;
+    Index<int, Model> models;
+    Index<int, Volume> volumes;
+    Index<int, Boundary> boundaries;
+    Index<int, Interface> interfaces;
+    Index<int, Settings> settings;
+    Index<int, ThreadBundle> bundlesByThreadId;
+    Index<int, ThreadBundle> bundlesByZoneId;
+    PointerIndex<gtm::Boundary, Boundary> boundariesByLocation;
+    Link<Volume> defaultVolume;
+    ActivationGroups activationGroups;
+
+private:
+    // All live objects that are owned here; volumes own their boundaries, settings their bundles.
+    Members<Model> m_models;
+    Members<Volume> m_volumes;
+    Members<Interface> m_interfaces;
+    Members<Settings> m_settings;
+    std::vector<Interface*> m_endedInterfaces;
+};
+
+} // namespace physics

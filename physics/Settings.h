@@ -1,0 +1,129 @@
+#pragma once
+
+#include "physics/Export.h"
+#include "physics/Lifetime.h"
+#include "physics/Types.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace physics {
+
+class Boundary;
+class BoundaryPatch;
+class Interface;
+class Model;
+class Physics;
+class ThreadBundle;
+class Volume;
+
+/// The solver-facing set-up of a volume, of the internal faces of a volume, of one kind of a boundary
+/// patch, or of an interface: the solver threads that realise it.
+///
+/// Made by the models at the first request; ended with the object that it belongs to. The internal
+/// settings of a volume stay after it, detached, and so do the settings of a destroyed model: all that
+/// they pointed at is null, they are inactive, and they are found by id and thread until
+/// `Physics::clear`. It owns its thread bundles.
+class PHYSICS_EXPORT Settings final : public Referable {
+public:
+    int id() const { return m_id; }
+    SettingsType type() const { return m_type; }
+    TopologyType topologyType() const { return m_topologyType; }
+
+    /// The model that holds the settings, or null after it was destroyed.
+    Model* model() const;
+
+    /// The volume, or that of the patch; null for interface settings.
+    Volume* volume() const;
+
+    /// The interface, or that of the patch; null when there is none.
+    Interface* interface() const;
+
+    /// The boundary of the patch, or null.
+    Boundary* boundary() const;
+
+    /// The patch, or null for settings of a volume or an interface.
+    BoundaryPatch* boundaryPatch() const;
+
+    /// The name of the object; "Internal settings" for those of the internal faces.
+    std::string name() const;
+
+    /// Whether the object takes part in the set-up. Internal settings are active exactly when the volume
+    /// has unused internal faces, active or not; those of a patch do not look at its interface.
+    bool isActive() const;
+
+    /// Makes the solver thread at an index, or changes type and domains of the one that has this thread id
+    /// at that index. Null, changing nothing, when another index has the thread id. A bundle that is
+    /// replaced at its index is no longer listed here but lives on, findable, until the settings end.
+    ThreadBundle* createThreadBundle(int index, ThreadType type, int threadId, const std::vector<int>& domainIds);
+
+    /// Ends the bundle at an index; pointers to it are dead afterwards. False when there is none.
+    bool deleteThreadBundle(int index);
+
+    /// The bundle at an index, or null.
+    ThreadBundle* threadBundle(int index) const;
+    ThreadBundle* primaryThreadBundle() const { return threadBundle(0); }
+
+    /// The bundle at the lowest index that has this thread id now, or null.
+    ThreadBundle* threadBundleWithThreadId(int threadId) const;
+
+    /// By index.
+    std::vector<ThreadBundle*> threadBundles() const;
+
+    /// One for each bundle, by index, repeats kept.
+    std::vector<int> threadIds() const;
+
+    // Of the bundle at an index; -1, `ThreadType::Unset` (0), -1, empty and null when there is none.
+    int threadId(int index) const;
+    ThreadType threadType(int index) const;
+    int solverThreadType(int index) const;
+    std::vector<int> domainIds(int index) const;
+    void* thread(int index, int slot) const;
+
+    /// The handles of all bundles, by index and slot.
+    std::vector<void*> threads() const;
+
+    /// Whether there is a bundle, with or without handles.
+    bool hasThreads() const { return !m_bundles.empty(); }
+
+private:
+    friend class BoundaryPatch;
+    friend class Model;
+    friend class Registry;
+    friend class ThreadBundle;
+
+    static int s_lastUsedId;
+
+    Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
+             Interface* interface);
+    Settings(Model* model, Volume* volume, bool internal);
+    Settings(Model* model, BoundaryPatch* patch, SettingsType type);
+    Settings(Model* model, Interface* interface);
+    ~Settings();
+
+    Physics* physics() const { return m_physics; }
+    void setModel(Model* model);
+
+    /// True when the object that these settings were made for has ended.
+    bool isDetached() const;
+
+    bool isListed(const ThreadBundle* bundle) const;
+    void threadIdChanges(const ThreadBundle* bundle, int threadId);
+
+    const int m_id;
+    Physics* const m_physics;
+    Link<Model> m_model;
+    const SettingsType m_type;
+    Link<Volume> m_volume;
+    Link<BoundaryPatch> m_boundaryPatch;
+    Link<Interface> m_interface;
+    const TopologyType m_topologyType;
+    std::map<int, ThreadBundle*> m_bundles;          // owned
+    std::vector<ThreadBundle*> m_replacedBundles;    // owned
+    std::set<std::pair<int, int>> m_indexByThreadId; // (thread id, index) of the listed bundles
+};
+
+} // namespace physics
