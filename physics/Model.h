@@ -93,6 +93,7 @@ private:
     friend class Boundary;
     friend class BoundaryPatch;
     friend class Interface;
+    friend class Peek;
     friend class Physics;
     friend class Registry;
     friend class Volume;

@@ -228,11 +228,13 @@ std::vector<int> Physics::threadIds() const
     return {ids.begin(), ids.end()};
 }
 
-std::vector<int> Physics::zoneIds() const
+std::vector<int> Physics::zoneIds() const { return zoneIds(m_reportCreationFailures); }
+
+std::vector<int> Physics::zoneIds(bool mayReport) const
 {
     std::set<int> ids;
     for (const ThreadBundle* bundle : threadBundles())
-        for (const int zoneId : bundle->zoneIds())
+        for (const int zoneId : bundle->zoneIds(mayReport))
             ids.insert(absoluteZoneId(zoneId));
     return {ids.begin(), ids.end()};
 }

@@ -225,6 +225,7 @@ private:
     friend class Boundary;
     friend class Interface;
     friend class Model;
+    friend class Peek;
     friend class Settings;
     friend class ThreadBundle;
     friend class Volume;
@@ -246,6 +247,7 @@ private:
     bool areOurs(const std::vector<Volume*>& volumes, bool active) const;
 
     std::vector<gtm::Part*> partsThatAre(bool masked) const;
+    std::vector<int> zoneIds(bool mayReport) const;
     std::vector<BoundaryPatch*> boundaryPatches() const;
     Registry& registry() { return *m_registry; }
     bool reportsFailures() const { return m_reportCreationFailures; }

@@ -74,6 +74,8 @@ public:
     std::tuple<ThreadBundle*, ThreadBundle*, ThreadBundle*, bool> adjacentThreadBundles() const;
 
 private:
+    friend class Peek;
+    friend class Physics;
     friend class Registry;
     friend class Settings;
 

@@ -139,6 +139,7 @@ private:
     friend class ActivationGroups;
     friend class Boundary;
     friend class Model;
+    friend class Peek;
     friend class Physics;
     friend class Registry;
     friend class ThreadBundle;
