@@ -43,6 +43,7 @@ public:
 
     /// True when the boundary has no face use.
     bool isEmpty() const override;
+    std::vector<std::string> validate(bool ignoreWarnings) const override;
     std::string rename(const std::string& name) override;
 
     BoundaryType type() const { return m_type; }

@@ -40,6 +40,7 @@ public:
 
     /// True when both boundaries are empty.
     bool isEmpty() const override;
+    std::vector<std::string> validate(bool ignoreWarnings) const override;
     std::string rename(const std::string& name) override;
 
     InterfaceType type() const { return m_type; }

@@ -181,6 +181,22 @@ public:
     /// The unmasked bodies that no volume uses.
     std::vector<gtm::Body*> unusedBodies() const;
 
+    // ---- Validity, judged anew at each call. `lenient` accepts empty regions and leaves warnings out.
+
+    /// Whether the location model calls its working copy valid.
+    bool isTopologyValid(bool lenient) const;
+
+    /// Whether no rule speaks against the set-up or one of its listed objects.
+    bool isPhysicsValid(bool lenient) const;
+
+    /// Both; the rules are not asked when the topology is invalid.
+    bool isValid(bool lenient) const;
+
+    /// What the rules say against the set-up, as whole lines for people; with `detailed`, also against each
+    /// listed volume, boundary and interface, one empty line between objects. A faulty boundary is reported
+    /// with its own lines and by one line of its volume and of each of its interfaces.
+    std::vector<std::string> validate(bool detailed, bool ignoreWarnings) const;
+
     // ---- Names of types. Only the enumerations with a specialisation below have one.
 
     /// The name that reports print; empty for a value outside the enumeration.

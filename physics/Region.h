@@ -5,6 +5,7 @@
 #include "physics/Types.h"
 
 #include <string>
+#include <vector>
 
 namespace physics {
 
@@ -32,9 +33,25 @@ public:
     /// Whether the object lies on nothing.
     virtual bool isEmpty() const = 0;
 
+    /// What the rules say against the object, as whole lines for people; empty when nothing. The last line
+    /// of each complaint says "MUST" for an error, "SHOULD" for a warning. `ignoreWarnings` leaves the
+    /// warnings out.
+    virtual std::vector<std::string> validate(bool ignoreWarnings) const = 0;
+
     /// Asks the location model for a new name and returns what it answers. The object keeps the place
     /// in ordered lists that the name at its creation gave it.
     virtual std::string rename(const std::string& name) = 0;
+
+    // Judged anew at each call. `lenient` accepts the state `Empty` and leaves warnings out.
+
+    /// Whether the location model calls the object valid.
+    bool isTopologyValid(bool lenient) const;
+
+    /// Whether no rule speaks against the object.
+    bool isPhysicsValid(bool lenient) const;
+
+    /// Both; the rules are not asked when the topology is invalid.
+    bool isValid(bool lenient) const;
 
 protected:
     Region() = default;

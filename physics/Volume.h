@@ -42,6 +42,7 @@ public:
 
     /// True when the interior has no body.
     bool isEmpty() const override;
+    std::vector<std::string> validate(bool ignoreWarnings) const override;
     std::string rename(const std::string& name) override;
 
     VolumeType type() const { return m_type; }

@@ -1,0 +1,144 @@
+#include "physics/rules/Examination.h"
+
+#include "physics/Boundary.h"
+#include "physics/Interface.h"
+#include "physics/Physics.h"
+#include "physics/Volume.h"
+#include "physics/rules/RuleAdjacentPhysics.h"
+#include "physics/rules/RuleInternalBoundaries.h"
+#include "physics/rules/RuleUnmatchedInterfaceBCs.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace physics {
+namespace {
+
+constexpr const char* boundaryHasError = "Error: One of more of the boundaries has an error.";
+
+void append(std::vector<std::string>& lines, std::vector<std::string> more)
+{
+    std::move(more.begin(), more.end(), std::back_inserter(lines));
+}
+
+} // namespace
+
+Examination::Examination(bool ignoreWarnings) : m_ignoreWarnings(ignoreWarnings)
+{
+    m_rules.push_back(std::make_unique<RuleAdjacentPhysics>());
+    m_rules.push_back(std::make_unique<RuleInternalBoundaries>());
+    m_rules.push_back(std::make_unique<RuleUnmatchedInterfaceBCs>());
+}
+
+std::vector<std::string> Examination::linesOf(const Physics& physics)
+{
+    std::vector<std::string> lines;
+    for (const auto& rule : m_rules)
+        append(lines, rule->checkPhysics(&physics, m_ignoreWarnings));
+    return lines;
+}
+
+std::vector<std::string> Examination::linesOf(const Volume& volume)
+{
+    std::vector<std::string> lines;
+    for (const auto& rule : m_rules)
+        append(lines, rule->checkVolume(&volume, m_ignoreWarnings));
+    const std::vector<Boundary*> boundaries = volume.boundaries();
+    if (std::any_of(boundaries.begin(), boundaries.end(),
+                    [this](const Boundary* boundary) { return isFaulty(*boundary); }))
+        lines.emplace_back(boundaryHasError);
+    return lines;
+}
+
+std::vector<std::string> Examination::linesOf(const Boundary& boundary)
+{
+    std::vector<std::string> lines;
+    for (const auto& rule : m_rules)
+        append(lines, rule->checkBoundary(&boundary, m_ignoreWarnings));
+    return lines;
+}
+
+std::vector<std::string> Examination::linesOf(const Interface& interface)
+{
+    std::vector<std::string> lines;
+    for (const auto& rule : m_rules)
+        append(lines, rule->checkInterface(&interface, m_ignoreWarnings));
+    for (const Side side : {Side::First, Side::Second}) {
+        const Boundary* boundary = interface.boundary(side);
+        if (boundary != nullptr && isFaulty(*boundary)) {
+            lines.emplace_back(boundaryHasError);
+            break;
+        }
+    }
+    return lines;
+}
+
+bool Examination::isFaulty(const Boundary& boundary)
+{
+    const auto [entry, isNew] = m_isFaulty.try_emplace(&boundary);
+    if (isNew)
+        entry->second = !linesOf(boundary).empty();
+    return entry->second;
+}
+
+// ---- The questions that the objects answer. They are defined here, so that no object knows the rules.
+
+std::vector<std::string> Volume::validate(bool ignoreWarnings) const
+{
+    return Examination(ignoreWarnings).linesOf(*this);
+}
+
+std::vector<std::string> Boundary::validate(bool ignoreWarnings) const
+{
+    return Examination(ignoreWarnings).linesOf(*this);
+}
+
+std::vector<std::string> Interface::validate(bool ignoreWarnings) const
+{
+    return Examination(ignoreWarnings).linesOf(*this);
+}
+
+bool Region::isTopologyValid(bool lenient) const
+{
+    const State present = state();
+    return present == State::Valid || (lenient && present == State::Empty);
+}
+
+bool Region::isPhysicsValid(bool lenient) const { return validate(lenient).empty(); }
+bool Region::isValid(bool lenient) const { return isTopologyValid(lenient) && isPhysicsValid(lenient); }
+
+bool Physics::isTopologyValid(bool lenient) const { return m_virtualTopology.isValid(lenient); }
+bool Physics::isValid(bool lenient) const { return isTopologyValid(lenient) && isPhysicsValid(lenient); }
+
+bool Physics::isPhysicsValid(bool lenient) const
+{
+    Examination examination(lenient);
+    const auto hasNothingAgainst = [&examination](const auto* object) { return examination.linesOf(*object).empty(); };
+    const auto hasNothingAgainstAny = [&hasNothingAgainst](const auto& objects) {
+        return std::all_of(objects.begin(), objects.end(), hasNothingAgainst);
+    };
+    return hasNothingAgainst(this) && hasNothingAgainstAny(volumes()) && hasNothingAgainstAny(boundaries()) &&
+           hasNothingAgainstAny(interfaces());
+}
+
+std::vector<std::string> Physics::validate(bool detailed, bool ignoreWarnings) const
+{
+    Examination examination(ignoreWarnings);
+    std::vector<std::string> lines = examination.linesOf(*this);
+    if (!detailed)
+        return lines;
+    const auto appendAll = [&](const auto& objects) {
+        for (const auto* object : objects) {
+            std::vector<std::string> ofObject = examination.linesOf(*object);
+            if (!ofObject.empty() && !lines.empty())
+                lines.emplace_back();
+            append(lines, std::move(ofObject));
+        }
+    };
+    appendAll(volumes());
+    appendAll(boundaries());
+    appendAll(interfaces());
+    return lines;
+}
+
+} // namespace physics

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "physics/rules/Rule.h"
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace physics {
+
+/// One validation call: the list of rules and what they have said so far. Nothing is kept from one call to
+/// the next, and a set-up must not change during one.
+class Examination {
+public:
+    explicit Examination(bool ignoreWarnings);
+
+    /// What the rules say of the set-up as a whole, without its objects.
+    std::vector<std::string> linesOf(const Physics& physics);
+
+    /// What they say of one object. Volumes and interfaces end with one line when a boundary of theirs has
+    /// an error; the boundary's own lines are not repeated.
+    std::vector<std::string> linesOf(const Volume& volume);
+    std::vector<std::string> linesOf(const Boundary& boundary);
+    std::vector<std::string> linesOf(const Interface& interface);
+
+private:
+    bool isFaulty(const Boundary& boundary);
+
+    const bool m_ignoreWarnings;
+    std::vector<std::unique_ptr<Rule>> m_rules;
+    std::unordered_map<const Boundary*, bool> m_isFaulty; // a boundary may be in very many interfaces
+};
+
+} // namespace physics
