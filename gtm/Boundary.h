@@ -57,19 +57,21 @@ public:
     /// True when the boundary has face uses and all lie on internal faces of its interior.
     bool isInternal() const;
 
-    /// The boundary made of exactly the partners of this boundary's face uses, or null.
+    /// Another boundary made of exactly the partners of this boundary's face uses, or null.
     Boundary* pair() const;
 
     State state() const;
 
-    /// Moves the boundary. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
+    /// Moves the boundary and returns how it lies there. With `enforceRestrictions`, anything but `Valid`
+    /// leaves it where it was. A default boundary cannot be moved: the answer is `Inconsistent`.
     State relocate(const std::string& location, bool enforceRestrictions);
     State relocate(const std::vector<Region*>& regions, bool enforceRestrictions);
 
-    /// Takes regions out of the location; true when that changed it.
+    /// Takes regions out of the location; true when that changed it. A face stands for its face uses, a
+    /// body for its own, a part for those of its bodies.
     bool remove(const std::vector<Region*>& regions);
 
-    /// Ends the boundary and every interface that uses it.
+    /// Ends the boundary and every interface that uses it. A default boundary is switched off instead.
     void destroy();
 
 protected:

@@ -41,7 +41,9 @@ public:
     /// Asks for a new name and returns the name that the interior has afterwards.
     std::string rename(const std::string& name);
 
-    /// Creates a boundary of this interior. On refusal the pointer is null and the state says why.
+    /// Creates a boundary of this interior and says how it lies there. With `enforceRestrictions`,
+    /// anything but `Valid` is a refusal: the pointer is null and the state says why. Without, the
+    /// boundary exists in any state.
     std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::string& location,
                                                          bool enforceRestrictions);
     std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::vector<Region*>& regions,
@@ -84,14 +86,17 @@ public:
     VirtualTopology* virtualTopology() const;
     State state() const;
 
-    /// Moves the interior. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
+    /// Moves the interior and returns how it lies there: never `Incomplete`, because that is a matter of
+    /// its boundaries. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
+    /// The default interior cannot be moved: the answer is `Inconsistent`.
     State relocate(const std::string& location, bool enforceRestrictions);
     State relocate(const std::vector<Region*>& regions, bool enforceRestrictions);
 
-    /// Takes regions out of the location; true when that changed it.
+    /// Takes regions out of the location; true when that changed it. A part stands for its bodies.
     bool remove(const std::vector<Region*>& regions);
 
-    /// Ends the interior with its boundaries and every interface that uses one of them.
+    /// Ends the interior with its boundaries and every interface that uses one of them. The default
+    /// interior is switched off instead.
     void destroy();
 
 protected:

@@ -52,8 +52,8 @@ public:
     /// What the location stands for now: the answer follows the mask and the topology.
     Primitives resolve() const;
 
-    /// The text of the location: the location string as given, or the ids of the listed regions
-    /// joined by ", ". `resolved` asks for the ids of what it resolves to instead.
+    /// The text of the location: the location string as given but for blanks at its ends, or the ids of
+    /// the listed regions joined by ", ". `resolved` asks for the ids of what it resolves to instead.
     std::string locationString(bool resolved) const;
 
 protected:

@@ -31,14 +31,17 @@ public:
     VirtualTopology(const VirtualTopology&) = delete;
     VirtualTopology& operator=(const VirtualTopology&) = delete;
 
-    /// Creates an interior. On refusal the pointer is null and the state says why. `isTemporary` asks
-    /// for an interior that the location model leaves out of its own reports.
+    /// Creates an interior and says how it lies there: never `Incomplete`, because that is a matter of
+    /// its boundaries. With `enforceRestrictions`, anything but `Valid` is a refusal: the pointer is null
+    /// and the state says why. Without, the interior exists in any state. `isTemporary` asks for an
+    /// interior that the location model leaves out of its own reports.
     std::pair<Interior*, Interior::State> createInterior(const std::string& name, const std::string& location,
                                                          bool isTemporary, bool enforceRestrictions);
     std::pair<Interior*, Interior::State> createInterior(const std::string& name, const std::vector<Region*>& regions,
                                                          bool isTemporary, bool enforceRestrictions);
 
-    /// Creates an interface between two sets of boundaries of this working copy.
+    /// Creates an interface between two sets of boundaries of this working copy, and refuses like
+    /// `createInterior`. A boundary that is null or of another working copy is refused in any case.
     std::pair<Interface*, Interface::State> createInterface(const std::string& name, const std::set<Boundary*>& first,
                                                             const std::set<Boundary*>& second,
                                                             bool enforceRestrictions);

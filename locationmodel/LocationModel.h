@@ -1,0 +1,54 @@
+#pragma once
+
+#include "gtm/Model.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace gtm {
+class Body;
+class Face;
+class FaceUse;
+class Part;
+} // namespace gtm
+
+namespace gtm::bundled {
+
+class ModelTopology;
+
+/// A location model of our own, for hosts without a geometry kernel: a topology that does not change,
+/// made by `TopologyBuilder`, with its solver zones. It must outlive every working copy over it.
+class GTM_EXPORT LocationModel final : public Model {
+public:
+    ~LocationModel();
+
+    /// All regions of a kind, in the order in which they were added.
+    const std::vector<Part*>& parts() const;
+    const std::vector<Body*>& bodies() const;
+    const std::vector<Face*>& faces() const;
+    const std::vector<FaceUse*>& faceUses() const;
+
+    /// The sides of faces that bound `body`, in the order of the topology.
+    std::vector<FaceUse*> faceUses(const Body* body) const;
+
+    /// The part of `body`, or null when it is in none.
+    Part* part(const Body* body) const;
+
+    /// Why the last attempt to create or relocate something on any working copy over this model was
+    /// refused: whole sentences for people. Empty when it was not refused. For what exists there is
+    /// `explain` (locationmodel/Explain.h).
+    std::string lastRefusal() const;
+
+private:
+    friend class gtm::Model;
+    friend class TopologyBuilder;
+
+    LocationModel(std::unique_ptr<ModelTopology> topology, bool hasZones);
+
+    class Lists;
+    std::unique_ptr<ModelTopology> m_topology;
+    std::unique_ptr<Lists> m_lists;
+};
+
+} // namespace gtm::bundled
