@@ -31,8 +31,8 @@ public:
     /// empty id stands for "FACE@BODY", or "FACE@BODY#2" for the second side within one body.
     struct Side {
         std::string body;
-        std::string id;
-        std::vector<ExternalFaceSide> zones;
+        std::string id = {};
+        std::vector<ExternalFaceSide> zones = {};
     };
 
     TopologyBuilder();

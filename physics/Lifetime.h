@@ -124,7 +124,7 @@ void sortOnceById(std::vector<T*>& objects)
 
 /// A pointer that owns nothing and answers null once its target has ended.
 template <class T>
-class Link : private Reference {
+class Link final : private Reference {
 public:
     Link() = default;
     explicit Link(T* target) { refer(target); }

@@ -36,7 +36,7 @@ public:
     void add(Volume* volume);
     void add(Boundary* boundary);
     void add(Interface* interface);
-    void add(Settings* settings);
+    void add(Settings* object);
     void add(ThreadBundle* bundle);
     void addZones(ThreadBundle* bundle, const std::vector<int>& zoneIds);
 
@@ -45,7 +45,7 @@ public:
     void remove(Volume* volume);
     void remove(Boundary* boundary);
     void remove(Interface* interface);
-    void remove(Settings* settings);
+    void remove(Settings* object);
     void remove(ThreadBundle* bundle);
     void removeZones(ThreadBundle* bundle);
 
