@@ -9,10 +9,20 @@ FOLDER = "docs/changelog/"
 ENTRY = re.compile(r"- (Added|Changed|Deprecated|Fixed|Removed) .+\.")
 
 
+def items(text):
+    """(line number, item) of each list item, its wrapped lines joined."""
+    found = []
+    for number, line in enumerate(text.splitlines(), 1):
+        if found and line.startswith("  "):
+            found[-1] = (found[-1][0], found[-1][1] + " " + line.strip())
+        else:
+            found.append((number, line))
+    return found
+
+
 def findings_in(path, text):
-    lines = text.splitlines()
-    return ([f"{path}:{number}: write '- Added ...' (or Changed, Deprecated, Fixed, Removed) on one line, as a sentence"
-             for number, line in enumerate(lines, 1) if not ENTRY.fullmatch(line)]
+    return ([f"{path}:{number}: write '- Added ...' (or Changed, Deprecated, Fixed, Removed) and end with a full stop"
+             for number, item in items(text) if not ENTRY.fullmatch(item)]
             + ([] if text.endswith("\n") else [f"{path}: must have a line and end with a line end"]))
 
 
