@@ -69,7 +69,7 @@ Volume* Physics::createVolumeAt(const std::string& name, const Where& where, Vol
         return nullptr;
     const auto [interior, state] = m_virtualTopology.createInterior(name, where, false, m_enforceRestrictions);
     if (interior != nullptr)
-        return constructVolume(type, model, interior, false);
+        return constructVolume(type, model, interior, nullptr);
     if (m_reportCreationFailures)
         reportCreationFailure("volume", name, where, gtm::Interior::stateAsString(state));
     return nullptr;
@@ -84,17 +84,19 @@ Volume* Physics::createDefaultVolume(const std::string& name, VolumeType type, M
     gtm::Interior* interior = m_virtualTopology.defaultInterior();
     if (interior == nullptr)
         return nullptr;
-    interior->rename(name);
-    return constructVolume(type, owner, interior, true);
+    return constructVolume(type, owner, interior, &name);
 }
 
-/// Makes the volume on an interior, which must not stay behind if that fails.
-Volume* Physics::constructVolume(VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)
+/// Makes the volume on an interior, which must not stay behind if that fails. `defaultName` is the name for
+/// the default interior, null for any other.
+Volume* Physics::constructVolume(VolumeType type, Model* model, gtm::Interior* interior, const std::string* defaultName)
 {
     try {
-        return new Volume(this, type, modelOrPrimary(model), interior, isDefault);
+        if (defaultName != nullptr)
+            interior->rename(*defaultName);
+        return new Volume(this, type, modelOrPrimary(model), interior, defaultName != nullptr);
     } catch (...) {
-        if (!isDefault)
+        if (defaultName == nullptr)
             interior->destroy();
         else if (!hasDefaultVolume())
             m_virtualTopology.activateDefaultInterior(false);
@@ -327,7 +329,8 @@ bool Physics::isMasked(gtm::Part* part) const
 {
     if (part == nullptr)
         return false;
-    const std::vector<gtm::Body*> bodies = part->bodies();
+    std::vector<gtm::Body*> bodies = part->bodies();
+    bodies.erase(std::remove(bodies.begin(), bodies.end(), nullptr), bodies.end());
     return !bodies.empty() &&
            std::all_of(bodies.begin(), bodies.end(), [this](gtm::Body* body) { return isMasked(body); });
 }

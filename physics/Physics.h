@@ -248,7 +248,7 @@ private:
 
     template <class Where>
     Volume* createVolumeAt(const std::string& name, const Where& where, VolumeType type, Model* model);
-    Volume* constructVolume(VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
+    Volume* constructVolume(VolumeType type, Model* model, gtm::Interior* interior, const std::string* defaultName);
 
     /// The model to use for one that was asked for: the primary model for null.
     Model* modelOrPrimary(Model* model) { return model != nullptr ? model : primaryModel(); }

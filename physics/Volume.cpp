@@ -79,7 +79,7 @@ Boundary* Volume::createBoundaryAt(const std::string& name, const Where& where, 
 {
     const auto [boundary, state] = m_interior->createBoundary(name, where, m_physics->enforceRestrictions());
     if (boundary != nullptr)
-        return constructBoundary(boundary, type, false);
+        return constructBoundary(boundary, type, nullptr);
     if (m_physics->reportsFailures())
         reportCreationFailure("boundary", name, where, gtm::Boundary::stateAsString(state));
     return nullptr;
@@ -93,14 +93,17 @@ Boundary* Volume::createDefaultBoundary(const std::string& name, BoundaryType ty
     gtm::Boundary* boundary = m_interior->defaultBoundary();
     if (boundary == nullptr)
         return nullptr;
-    boundary->rename(name);
-    return constructBoundary(boundary, type, true);
+    return constructBoundary(boundary, type, &name);
 }
 
-/// Makes the boundary on a location-model boundary, which must not stay behind if that fails.
-Boundary* Volume::constructBoundary(gtm::Boundary* boundary, BoundaryType type, bool isDefault)
+/// Makes the boundary on a location-model boundary, which must not stay behind if that fails. `defaultName`
+/// is the name for the default boundary, null for any other.
+Boundary* Volume::constructBoundary(gtm::Boundary* boundary, BoundaryType type, const std::string* defaultName)
 {
+    const bool isDefault = defaultName != nullptr;
     try {
+        if (isDefault)
+            boundary->rename(*defaultName);
         return new Boundary(this, type == BoundaryType::Unset ? defaultBoundaryType() : type, boundary, isDefault);
     } catch (...) {
         if (isDefault)

@@ -156,7 +156,7 @@ private:
 
     template <class Where>
     Boundary* createBoundaryAt(const std::string& name, const Where& where, BoundaryType type);
-    Boundary* constructBoundary(gtm::Boundary* boundary, BoundaryType type, bool isDefault);
+    Boundary* constructBoundary(gtm::Boundary* boundary, BoundaryType type, const std::string* defaultName);
 
     /// The listed boundaries, then those that an equal name took out of the list, by id.
     std::vector<Boundary*> ownedBoundaries() const;
