@@ -80,6 +80,7 @@ public:
     /// "setMaskedBodies", "activateDefaultInterior", "activateDefaultBoundary", "clear") throw
     /// `std::runtime_error` before it does anything.
     void throwOn(const std::string& operation, int nth = 1) { m_throwing[operation] = nth; }
+    void throwOnNothing() { m_throwing.clear(); }
 
     /// The changes asked for, in order, such as
     ///     createInterior("fluid", "b1", false, true)
