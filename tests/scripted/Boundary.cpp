@@ -165,7 +165,7 @@ Boundary* Boundary::pair() const
     for (const Interior* interior : self->owner().copy().interiors()) {
         for (Boundary* other : interior->boundaries()) {
             const std::vector<FaceUse*> uses = other->faceUses();
-            if (std::set<FaceUse*>(uses.begin(), uses.end()) == partners) {
+            if (other != this && std::set<FaceUse*>(uses.begin(), uses.end()) == partners) {
                 return other;
             }
         }
@@ -204,7 +204,11 @@ void Boundary::destroy()
 {
     auto* self = scriptedOf(this);
     self->owner().copy().called(self->subject(), "destroy");
-    self->owner().end(self);
+    if (self->isDefaultBoundary()) {
+        self->owner().m_isDefaultBoundaryActive = false;
+    } else {
+        self->owner().end(self);
+    }
 }
 
 } // namespace gtm

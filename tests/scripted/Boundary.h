@@ -36,6 +36,7 @@ public:
     // What the boundary answers when nothing else is set.
     std::vector<gtm::FaceUse*> resolvedFaceUses() const;
     State judgedState() const;
+    State placementState() const { return state(); }
 
     std::string m_name;
 

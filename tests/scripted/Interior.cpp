@@ -33,7 +33,7 @@ std::pair<gtm::Boundary*, gtm::Boundary::State> Interior::createBoundary(const s
         m_boundaries.emplace(serial, std::make_unique<Boundary>(*this, serial, m_copy.nameFor(name), std::move(place)))
             .first;
     const gtm::Boundary::State state = boundary->second->state();
-    if (enforceRestrictions && !isAccepted(state)) {
+    if (enforceRestrictions && state != gtm::Boundary::State::Valid) {
         m_boundaries.erase(boundary);
         return {nullptr, state};
     }
@@ -125,8 +125,11 @@ std::vector<gtm::FaceUse*> Interior::outwardFaceUsesBeside(const std::vector<Bou
     return inOrder(m_copy, std::move(found));
 }
 
-gtm::Interior::State Interior::judgedState() const
+gtm::Interior::State Interior::placementState() const
 {
+    if (m_answers.state || !m_copy.isJudging()) {
+        return m_answers.state.value_or(State::Valid);
+    }
     const auto isNoBodyOrPart = [](gtm::Region* region) {
         return !dynamic_cast<gtm::Body*>(region) && !dynamic_cast<gtm::Part*>(region);
     };
@@ -142,10 +145,13 @@ gtm::Interior::State Interior::judgedState() const
     if (bodies().empty()) {
         return State::Empty;
     }
-    if (!overlappingInteriors().empty()) {
-        return State::Overlapping;
-    }
-    return unusedFaceUses().empty() ? State::Valid : State::Incomplete;
+    return overlappingInteriors().empty() ? State::Valid : State::Overlapping;
+}
+
+gtm::Interior::State Interior::judgedState() const
+{
+    const State state = placementState();
+    return state == State::Valid && !unusedFaceUses().empty() ? State::Incomplete : state;
 }
 
 InteriorAnswers& answersOf(gtm::Interior* interior) { return scriptedOf(interior)->answers(); }
@@ -332,7 +338,11 @@ void Interior::destroy()
 {
     auto* self = scriptedOf(this);
     self->copy().called(self->subject(), "destroy");
-    self->copy().end(self);
+    if (self->isDefaultInterior()) {
+        self->copy().m_isDefaultInteriorActive = false;
+    } else {
+        self->copy().end(self);
+    }
 }
 
 } // namespace gtm

@@ -18,13 +18,6 @@ namespace scripted {
 
 class WorkingCopy;
 
-/// True for the states in which an entity may be created although restrictions are enforced.
-template <class State>
-bool isAccepted(State state)
-{
-    return state == State::Valid || state == State::Incomplete;
-}
-
 class Interior final : public gtm::Interior {
 public:
     /// Without a place it is the default interior of its working copy.
@@ -54,6 +47,7 @@ public:
     // What the interior answers when nothing else is set.
     std::vector<gtm::Body*> resolvedBodies() const;
     std::vector<gtm::Face*> resolvedInternalFaces() const;
+    State placementState() const; // how the interior lies, whatever boundaries it has
     State judgedState() const;
 
     /// The face uses of the bodies but for those of internal faces and those of `boundaries`.

@@ -12,20 +12,21 @@ namespace scripted {
 /// The wording of a state of this location model; empty for a number that is no state.
 std::string stateText(int state);
 
-/// Moves an interior or a boundary and answers the state. With restrictions enforced, what is not valid
-/// goes back to where it was. A default one has no location and stays.
+/// Moves an interior or a boundary and answers how it lies there. With restrictions enforced, what is not
+/// valid goes back to where it was. A default one has no location and cannot be moved.
 template <class Entity>
 auto relocated(Entity& entity, Place place, bool enforceRestrictions)
 {
-    Location* location = entity.location();
-    const std::optional<Place> before = location ? std::optional(location->place()) : std::nullopt;
-    if (location) {
-        location->place(std::move(place));
-    }
     const auto& result = entity.answers().relocateResult;
-    const auto state = result ? *result : entity.state();
-    if (location && enforceRestrictions && state != Entity::State::Valid) {
-        location->place(*before);
+    Location* location = entity.location();
+    if (!location) {
+        return result.value_or(Entity::State::Inconsistent);
+    }
+    const Place before = location->place();
+    location->place(std::move(place));
+    const auto state = result ? *result : entity.placementState();
+    if (enforceRestrictions && state != Entity::State::Valid) {
+        location->place(before);
     }
     return state;
 }

@@ -25,8 +25,8 @@ std::pair<gtm::Interior*, gtm::Interior::State> WorkingCopy::createInterior(cons
     const std::size_t serial = nextSerial();
     const auto interior =
         m_interiors.emplace(serial, std::make_unique<Interior>(*this, serial, nameFor(name), std::move(place))).first;
-    const gtm::Interior::State state = interior->second->state();
-    if (enforceRestrictions && !isAccepted(state)) {
+    const gtm::Interior::State state = interior->second->placementState();
+    if (enforceRestrictions && state != gtm::Interior::State::Valid) {
         m_interiors.erase(interior);
         return {nullptr, state};
     }
@@ -39,14 +39,24 @@ WorkingCopy::createInterface(const std::string& name, gtm::Interface::Sides side
     if (answers().refuseNextInterface) {
         return {nullptr, *std::exchange(answers().refuseNextInterface, std::nullopt)};
     }
+    if (!areOurs(sides.first) || !areOurs(sides.second)) {
+        return {nullptr, gtm::Interface::State::Inconsistent};
+    }
     auto created = std::make_unique<Interface>(*this, nextSerial(), nameFor(name), std::move(sides));
     Interface* interface = created.get();
     const gtm::Interface::State state = interface->state();
-    if (enforceRestrictions && !isAccepted(state)) {
+    if (enforceRestrictions && state != gtm::Interface::State::Valid) {
         return {nullptr, state};
     }
     m_interfaces.emplace(interface->serial(), std::move(created));
     return {interface, state};
+}
+
+bool WorkingCopy::areOurs(const std::set<gtm::Boundary*>& boundaries) const
+{
+    return std::all_of(boundaries.begin(), boundaries.end(), [this](const gtm::Boundary* boundary) {
+        return boundary && &scriptedOf(boundary)->owner().copy() == this;
+    });
 }
 
 void WorkingCopy::end(Interior* interior)

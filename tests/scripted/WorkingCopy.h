@@ -60,6 +60,8 @@ public:
     bool m_isDefaultInteriorActive = false;
 
 private:
+    bool areOurs(const std::set<gtm::Boundary*>& boundaries) const;
+
     gtm::VirtualTopology* m_virtualTopology;
     Topology& m_topology;
     std::size_t m_index;

@@ -71,8 +71,8 @@ public:
     /// Changes every name that an entity is given at its creation or by a renaming.
     void nameHook(std::function<std::string(const std::string&)> hook) { m_nameHook = std::move(hook); }
 
-    /// The states that nobody has set are found out from the locations instead of being valid, and
-    /// whatever is not valid (or only incomplete) is refused when restrictions are enforced.
+    /// The states that nobody has set are found out from the locations instead of being valid; with
+    /// restrictions enforced, anything but valid is refused.
     void judgeStates() { m_isJudging = true; }
 
     /// Makes the `nth` call from now of an operation ("createInterior", "createBoundary",

@@ -206,8 +206,9 @@ TEST_F(ScriptedWorld, judgesStatesWhenAskedTo)
     EXPECT_EQ(topology->createInterior("a", "nothing", false, true).second, Interior::State::Unresolvable);
     EXPECT_EQ(topology->createInterior("a", "outer", false, true).second, Interior::State::Inconsistent);
     EXPECT_EQ(topology->createInterior("a", std::vector<gtm::Region*>(), false, true).second, Interior::State::Empty);
-    EXPECT_EQ(topology->createInterior("a", "hot", false, true).second, Interior::State::Incomplete);
+    EXPECT_EQ(topology->createInterior("a", "hot", false, true).second, Interior::State::Valid);
     EXPECT_EQ(topology->createInterior("b", "part", false, true).second, Interior::State::Overlapping);
+    EXPECT_EQ(world.interior("a")->state(), Interior::State::Incomplete);
     EXPECT_EQ(world.interior("a")->unresolvableNames(), std::vector<std::string>{});
     EXPECT_EQ(topology->interiors().size(), 1U);
 }
