@@ -63,6 +63,11 @@ bool touches(const SurfaceTerm& term, const InteriorEntity& interior)
     });
 }
 
+std::string namesNothingIn(const std::string& term, const InteriorEntity& interior)
+{
+    return "The term " + quoted(term) + " names nothing in the interior " + quoted(interior.name) + ".";
+}
+
 /// The boundaries of a side in the order of their creation.
 std::vector<BoundaryEntity*> ordered(const std::set<Boundary*>& side)
 {
@@ -161,7 +166,7 @@ std::vector<UnresolvedTerm> unresolvedTerms(const SurfacePlacement& placement, c
     std::vector<UnresolvedTerm> unresolved = placement.unresolved;
     for (const SurfaceTerm& term : placement.terms) {
         if (term.isPattern && !touches(term, interior)) {
-            unresolved.push_back({term.text, {}});
+            unresolved.push_back({term.text, namesNothingIn(term.text, interior)});
         }
     }
     return unresolved;

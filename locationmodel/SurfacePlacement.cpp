@@ -184,7 +184,7 @@ SurfacePlacement placeSurface(const std::vector<LocationTerm>& terms, const Mode
         } else {
             placed.candidates = finder.find(term.pattern);
         }
-        if (region == nullptr && placed.candidates.empty()) {
+        if (region == nullptr && placed.candidates.empty() && !placed.isPattern) {
             placement.unresolved.push_back({term.text, {}});
             continue;
         }

@@ -24,7 +24,7 @@ struct SurfaceTerm {
     std::string text;
     const RegionInfo* region = nullptr; ///< the region when the term names just one, else null
     bool isPattern = false;             ///< has wildcards
-    std::vector<Candidate> candidates;
+    std::vector<Candidate> candidates;  ///< may be empty for a pattern: it names nothing in the interior
 };
 
 /// What the terms of a boundary's location come to. It depends on the topology and on the bodies that
