@@ -53,7 +53,7 @@ std::vector<ModelBody*> findByPath(const Pattern& pattern, const ModelTopology& 
 
 } // namespace
 
-std::vector<ModelBody*> findBodies(const Pattern& pattern, const ModelTopology& topology)
+std::optional<std::vector<ModelBody*>> findBodies(const Pattern& pattern, const ModelTopology& topology)
 {
     const std::vector<Region*> regions = matching(pattern, topology);
     std::vector<ModelBody*> bodies;
@@ -64,7 +64,7 @@ std::vector<ModelBody*> findBodies(const Pattern& pattern, const ModelTopology& 
         bodies = findByPath(pattern, topology);
     }
     sortUnique(bodies);
-    return bodies;
+    return regions.empty() && bodies.empty() ? std::nullopt : std::optional(std::move(bodies));
 }
 
 BodyPlacement placeBodies(const std::vector<LocationTerm>& terms, const ModelTopology& topology)
@@ -81,8 +81,8 @@ BodyPlacement placeBodies(const std::vector<LocationTerm>& terms, const ModelTop
             append(target, *region);
         } else if (region != nullptr) {
             placement.wrongKind = placement.wrongKind != nullptr ? placement.wrongKind : &infoOf(*region);
-        } else if (const auto bodies = findBodies(term.pattern, topology); !bodies.empty()) {
-            target.insert(target.end(), bodies.begin(), bodies.end());
+        } else if (const auto bodies = findBodies(term.pattern, topology)) {
+            target.insert(target.end(), bodies->begin(), bodies->end());
         } else {
             placement.unresolved.push_back({term.text, {}});
         }

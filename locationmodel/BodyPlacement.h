@@ -4,6 +4,7 @@
 #include "locationmodel/ModelRegions.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,7 @@ struct BodyPlacement {
 BodyPlacement placeBodies(const std::vector<LocationTerm>& terms, const ModelTopology& topology);
 
 /// The bodies that a name stands for: by the ids of bodies and parts, or else as a path PART/BODY.
-std::vector<ModelBody*> findBodies(const Pattern& pattern, const ModelTopology& topology);
+/// Nothing when it is the name of none; no bodies when only parts without any have it.
+std::optional<std::vector<ModelBody*>> findBodies(const Pattern& pattern, const ModelTopology& topology);
 
 } // namespace gtm::bundled

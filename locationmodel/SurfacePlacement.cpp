@@ -59,6 +59,11 @@ private:
                std::binary_search(m_interior->bodies.begin(), m_interior->bodies.end(), &body, ByIndex());
     }
 
+    std::vector<ModelBody*> bodiesNamed(const Pattern& pattern) const
+    {
+        return findBodies(pattern, m_topology).value_or(std::vector<ModelBody*>());
+    }
+
     /// The ids of faces and face uses. Walks whichever is shorter: the ids with the pattern's literal
     /// beginning, or the surface of the interior.
     Candidates findByIds(const Pattern& pattern) const
@@ -95,19 +100,16 @@ private:
         const bool isWide = !pattern.hasWildcard();
         Candidates found;
         for (const auto& [before, behind] : pattern.divisions()) {
-            for (const ModelBody* body : findBodies(before, m_topology)) {
-                if (!isWide && !isInside(*body)) {
-                    continue;
-                }
+            for (const ModelBody* body : bodiesNamed(before)) {
                 for (ModelFaceUse* faceUse : body->faceUses) {
-                    if (behind.matches(faceUse->ownFace().name)) {
+                    if ((isWide || isInside(*body)) && behind.matches(faceUse->ownFace().name)) {
                         found.push_back({faceUse, true, true});
                     }
                 }
             }
         }
         if (found.empty() && isWide) {
-            for (const ModelBody* body : findBodies(pattern, m_topology)) {
+            for (const ModelBody* body : bodiesNamed(pattern)) {
                 appendBody(found, *body);
             }
         }
