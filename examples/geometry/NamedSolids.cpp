@@ -109,7 +109,7 @@ void writeStep(const std::filesystem::path& file, const std::string& assembly, c
     for (std::size_t i = 0; i < solids.size(); ++i) {
         const TDF_Label body = shapes->AddShape(fitted[i], false);
         TDataStd_Name::Set(body, solids[i].name.c_str());
-        shapes->AddComponent(top, body, TopLoc_Location());
+        TDataStd_Name::Set(shapes->AddComponent(top, body, TopLoc_Location()), solids[i].name.c_str());
         for (const NamedFace& face : solids[i].faces) {
             const TopoDS_Shape shape = faceOf(fitted[i], solids[i].name, face);
             if (!named.Add(shape))
