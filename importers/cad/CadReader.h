@@ -1,0 +1,56 @@
+#pragma once
+
+#include "gtm/Export.h"
+#include "locationmodel/LocationModel.h"
+#include "locationmodel/TopologyBuilder.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace gtm::bundled {
+
+/// Why no topology can be made of a geometry file: a whole sentence that names the file and the place
+/// in it, and says what to do.
+class GTM_EXPORT CadError : public TopologyError {
+public:
+    using TopologyError::TopologyError;
+};
+
+/// How a geometry file is read.
+struct CadOptions {
+    /// Whether faces are divided and made common where bodies touch. Unset: yes for STEP, in which
+    /// every body has faces of its own, and no for BREP, which keeps shared faces.
+    std::optional<bool> imprint;
+};
+
+/// What was read.
+struct CadResult {
+    /// Never null. Bodies, parts and faces are in the order of the file.
+    std::unique_ptr<LocationModel> model;
+
+    /// What the file has and the model has not, and every name that could not be kept; one sentence
+    /// each, in the same order on every run.
+    std::vector<std::string> notes;
+};
+
+/// Reads a STEP or BREP file, told apart by content, not by name. Throws `CadError`.
+///
+/// Each solid becomes a body, called as its product or, if that has no name, as the solid itself, else
+/// "body-N" for the N-th solid of the file. A product with several solids, and an assembly with solids
+/// directly below it, becomes a part. A face becomes a face called "BODY/NAME" after the first body
+/// that has a name for it, else "BODY/face-N" for the N-th face of the first body.
+///
+/// The first side of a face that two bodies share is that of the body out of which its normal points.
+///
+/// One rule maps names to ids: blanks at the ends go, a comma or a control character becomes "_", and
+/// what is then empty or "NONE" counts as no name; an id that is taken gets "-2", "-3" and so on. Ids
+/// are given to all bodies first, then to parts, then to faces.
+///
+/// Calls from several threads wait for each other, because the geometry kernel has global state. Nothing
+/// is printed; to that end, what other threads send to `std::cout` while a BREP file is read is lost.
+GTM_EXPORT CadResult readCad(const std::filesystem::path& file, const CadOptions& options = {});
+
+} // namespace gtm::bundled

@@ -1,0 +1,259 @@
+#include "importers/cad/StepFile.h"
+
+#include "importers/cad/CadNames.h"
+
+#include <Interface_Check.hxx>
+#include <Interface_InterfaceModel.hxx>
+#include <NCollection_DataMap.hxx>
+#include <STEPCAFControl_Reader.hxx>
+#include <StepData_StepModel.hxx>
+#include <StepData_UndefinedEntity.hxx>
+#include <StepDimTol_GeometricTolerance.hxx>
+#include <StepRepr_RepresentationItem.hxx>
+#include <StepShape_Face.hxx>
+#include <StepShape_SolidModel.hxx>
+#include <StepVisual_PresentationLayerAssignment.hxx>
+#include <StepVisual_StyledItem.hxx>
+#include <TCollection_AsciiString.hxx>
+#include <TCollection_ExtendedString.hxx>
+#include <TCollection_HAsciiString.hxx>
+#include <TDF_Label.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDataStd_Name.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopTools_ShapeMapHasher.hxx>
+#include <TransferBRep.hxx>
+#include <Transfer_TransientProcess.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <XSControl_WorkSession.hxx>
+
+#include <sstream>
+#include <string_view>
+
+namespace gtm::bundled {
+
+namespace {
+
+constexpr std::string_view firstWord = "ISO-10303-21;";
+constexpr std::string_view lastWord = "END-ISO-10303-21;";
+
+std::string utf8(const TCollection_ExtendedString& text) { return TCollection_AsciiString(text).ToCString(); }
+
+/// The names that the file gives to solids and faces themselves, by their shape without its place: a
+/// product that is used several times names its faces once.
+class ShapeNames {
+public:
+    explicit ShapeNames(STEPCAFControl_Reader& reader)
+    {
+        const Handle(StepData_StepModel) model = reader.ChangeReader().StepModel();
+        const Handle(Transfer_TransientProcess) process = reader.Reader().WS()->TransferReader()->TransientProcess();
+        for (int i = 1; i <= model->NbEntities(); ++i) {
+            const auto item = Handle(StepRepr_RepresentationItem)::DownCast(model->Value(i));
+            const bool mayHaveName =
+                !item.IsNull() && !item->Name().IsNull() &&
+                (item->IsKind(STANDARD_TYPE(StepShape_Face)) || item->IsKind(STANDARD_TYPE(StepShape_SolidModel)));
+            if (!mayHaveName)
+                continue;
+            const TopoDS_Shape shape = TransferBRep::ShapeResult(process, item);
+            if (!shape.IsNull())
+                m_names.Bind(withoutPlace(shape), utf8(TCollection_ExtendedString(item->Name()->ToCString(), true)));
+        }
+    }
+
+    std::string of(const TopoDS_Shape& shape) const
+    {
+        const std::string* name = m_names.Seek(withoutPlace(shape));
+        return name ? *name : std::string();
+    }
+
+private:
+    static TopoDS_Shape withoutPlace(const TopoDS_Shape& shape) { return shape.Located(TopLoc_Location()); }
+
+    NCollection_DataMap<TopoDS_Shape, std::string, TopTools_ShapeMapHasher> m_names;
+};
+
+/// Walks the products of a file from the assemblies down and collects their solids.
+class ProductWalk {
+public:
+    ProductWalk(const ShapeNames& names, CadShapes& shapes) : m_names(names), m_shapes(shapes) {}
+
+    void walk(const TDF_Label& label) { walk(label, TopLoc_Location(), nullptr); }
+
+private:
+    /// A product that may become a part: it does with the first body directly below it.
+    struct Product {
+        std::string name;
+        const Product* assembly;
+        std::optional<std::size_t> part;
+    };
+
+    void walk(const TDF_Label& label, const TopLoc_Location& above, Product* assembly)
+    {
+        TDF_Label referred = label;
+        TopLoc_Location place = above;
+        if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
+            place = above * XCAFDoc_ShapeTool::GetLocation(label);
+        Product product{nameOf(referred), assembly, {}};
+        if (!XCAFDoc_ShapeTool::IsAssembly(referred)) {
+            addSolids(XCAFDoc_ShapeTool::GetShape(referred).Moved(place), product, assembly);
+            return;
+        }
+        TDF_LabelSequence components;
+        XCAFDoc_ShapeTool::GetComponents(referred, components);
+        for (const TDF_Label& component : components)
+            walk(component, place, &product);
+        if (!product.part)
+            note("Product \"" + product.name + "\" has no solid directly below it, so no part stands for it.");
+    }
+
+    static std::string nameOf(const TDF_Label& product)
+    {
+        Handle(TDataStd_Name) name;
+        return product.FindAttribute(TDataStd_Name::GetID(), name) ? utf8(name->Get()) : std::string();
+    }
+
+    void addSolids(const TopoDS_Shape& shape, Product& product, Product* assembly)
+    {
+        countLoose(shape, m_shapes.loose);
+        const std::vector<TopoDS_Shape> solids = subShapes(shape, TopAbs_SOLID);
+        Product* owner = solids.size() > 1 ? &product : assembly;
+        const bool isOneSolid = solids.size() == 1 && !CadNames::asId(product.name).empty();
+        for (const TopoDS_Shape& shapeOfSolid : solids) {
+            CadSolid& solid = addSolid(shapeOfSolid, m_shapes);
+            solid.name = isOneSolid ? product.name : m_names.of(shapeOfSolid);
+            if (owner)
+                solid.part = partOf(*owner);
+            for (CadFace& face : solid.faces)
+                face.name = m_names.of(face.shape);
+        }
+    }
+
+    std::size_t partOf(Product& product)
+    {
+        if (!product.part) {
+            product.part = m_shapes.parts.size();
+            m_shapes.parts.push_back(product.name);
+            if (product.assembly)
+                note("Product \"" + product.name + "\" lies within \"" + product.assembly->name +
+                     "\"; parts do not nest, so it is a part beside it.");
+        }
+        return *product.part;
+    }
+
+    void note(const std::string& sentence) { m_shapes.notes.push_back(sentence); }
+
+    const ShapeNames& m_names;
+    CadShapes& m_shapes;
+};
+
+/// What a STEP file may say besides shapes and names.
+void noteOtherContent(const StepData_StepModel& model, std::vector<std::string>& notes)
+{
+    LeftOut known;
+    LeftOut unknown;
+    for (int i = 1; i <= model.NbEntities(); ++i) {
+        const Handle(Standard_Transient) entity = model.Value(i);
+        if (entity->IsKind(STANDARD_TYPE(StepVisual_StyledItem)))
+            known.add("colour or style", "colours and styles", 1);
+        else if (entity->IsKind(STANDARD_TYPE(StepVisual_PresentationLayerAssignment)))
+            known.add("layer", "layers", 1);
+        else if (entity->IsKind(STANDARD_TYPE(StepDimTol_GeometricTolerance)))
+            known.add("tolerance", "tolerances", 1);
+        else if (const auto undefined = Handle(StepData_UndefinedEntity)::DownCast(entity); !undefined.IsNull())
+            unknown.add(undefined->StepType(), undefined->StepType(), 1);
+    }
+    if (const std::string text = known.text(); !text.empty())
+        notes.push_back("Left out, because a topology has no place for them: " + text + ".");
+    if (const std::string text = unknown.text(); !text.empty())
+        notes.push_back("Left out, because the reader does not know these kinds of entity: " + text + ".");
+}
+
+void refuseTruncated(const std::string& content)
+{
+    if (content.find(lastWord) == std::string::npos)
+        throw CadError("the file ends before \"" + std::string(lastWord) +
+                       "\", its last word; copy or export it again.");
+}
+
+/// The kernel puts a syntax error as "Undefined Parsing: Line 763: ...", sometimes one line too late.
+void refuseBrokenGrammar(const StepData_StepModel& model)
+{
+    constexpr std::string_view mark = "Line ";
+    const Handle(Interface_Check) file = model.GlobalCheck();
+    for (int i = 1; i <= file->NbFails(); ++i) {
+        const std::string_view fail = file->CFail(i);
+        if (const std::size_t at = fail.find(mark); at != std::string_view::npos)
+            throw CadError("the file breaks the grammar of STEP near line " +
+                           std::string(fail.substr(at + mark.size())) + "; export it again.");
+    }
+}
+
+/// Shapes and products. Damage elsewhere, as in dates and approvals, does no harm.
+bool isNeeded(const Standard_Transient& entity)
+{
+    const std::string_view type = entity.DynamicType()->Name();
+    const auto beginsWith = [type](std::string_view start) { return type.substr(0, start.size()) == start; };
+    return beginsWith("StepGeom_") || beginsWith("StepShape_") || beginsWith("StepRepr_") ||
+           beginsWith("StepBasic_Product");
+}
+
+/// The kernel would go on and follow references that lead nowhere.
+void refuseDamagedEntities(const StepData_StepModel& model)
+{
+    for (int i = 1; i <= model.NbEntities(); ++i) {
+        const Handle(Standard_Transient) entity = model.Value(i);
+        if (model.IsErrorEntity(i) && isNeeded(*entity))
+            throw CadError("entity " + std::string(model.StringLabel(entity)->ToCString()) + " (" +
+                           entity->DynamicType()->Name() + ") is damaged: " + model.Check(i, true)->CFail(1) +
+                           "; export the file again.");
+    }
+}
+
+void transfer(STEPCAFControl_Reader& reader, const std::string& content, Handle(TDocStd_Document) & document)
+{
+    std::istringstream stream(content);
+    if (reader.ChangeReader().ReadStream("STEP", stream) != IFSelect_RetDone)
+        throw CadError("the file breaks the grammar of STEP and cannot be read; export it again.");
+    refuseBrokenGrammar(*reader.ChangeReader().StepModel());
+    refuseDamagedEntities(*reader.ChangeReader().StepModel());
+    reader.SetColorMode(false);
+    reader.SetLayerMode(false);
+    reader.SetPropsMode(false);
+    reader.SetSHUOMode(false);
+    reader.SetGDTMode(false);
+    reader.SetMatMode(false);
+    reader.SetViewMode(false);
+    if (reader.NbRootsForTransfer() == 0 || !reader.Transfer(document))
+        throw CadError("the file has no product with a shape that can be read; export it again.");
+}
+
+} // namespace
+
+bool isStep(const std::string& content)
+{
+    constexpr std::size_t headLength = 1024;
+    return std::string_view(content).substr(0, headLength).find(firstWord) != std::string_view::npos;
+}
+
+CadShapes readStep(const std::string& content)
+{
+    refuseTruncated(content);
+    Handle(TDocStd_Document) document = new TDocStd_Document("STEP");
+    STEPCAFControl_Reader reader;
+    transfer(reader, content, document);
+
+    CadShapes shapes;
+    const ShapeNames names(reader);
+    ProductWalk products(names, shapes);
+    TDF_LabelSequence top;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(top);
+    for (const TDF_Label& label : top)
+        products.walk(label);
+    noteOtherContent(*reader.ChangeReader().StepModel(), shapes.notes);
+    return shapes;
+}
+
+} // namespace gtm::bundled

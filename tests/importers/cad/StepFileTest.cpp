@@ -1,0 +1,176 @@
+#include "importers/cad/StepFile.h"
+
+#include "importers/cad/CadDescription.h"
+#include "tests/importers/cad/Listing.h"
+#include "tests/importers/cad/Shapes.h"
+
+#include <Quantity_Color.hxx>
+#include <TDF_Label.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopLoc_Location.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <gtest/gtest.h>
+
+namespace {
+
+using cadtests::assembly;
+using cadtests::box;
+using cadtests::compound;
+using cadtests::first;
+using cadtests::listingOf;
+using cadtests::nameSubShape;
+using cadtests::product;
+using cadtests::shifted;
+using cadtests::stepOf;
+using gtm::bundled::buildModel;
+using gtm::bundled::CadResult;
+using gtm::bundled::readStep;
+using Strings = std::vector<std::string>;
+
+CadResult read(const std::string& content) { return buildModel(describe(readStep(content))); }
+
+/// The lines of a listing that tell of bodies.
+std::string bodiesOf(const CadResult& result)
+{
+    const std::string listing = listingOf(*result.model);
+    return listing.substr(0, listing.find("face "));
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& with)
+{
+    const std::size_t at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return text.replace(at, what.size(), with);
+}
+
+std::string boxCalled(const std::string& name)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TopoDS_Shape shape = box({0, 0, 0}, {1, 1, 1});
+        const TDF_Label block = product(tool, shape, "block");
+        nameSubShape(tool, block, first(shape, TopAbs_FACE), "inlet");
+    });
+    return replaced(content, "PRODUCT('block','block'", "PRODUCT('block','" + name + "'");
+}
+
+TEST(StepFile, aProductWithOneSolidIsABody)
+{
+    const CadResult result = read(boxCalled("block"));
+
+    EXPECT_EQ(listingOf(*result.model), "body block\n"
+                                        "face block/inlet: block\n"
+                                        "face block/face-2: block\n"
+                                        "face block/face-3: block\n"
+                                        "face block/face-4: block\n"
+                                        "face block/face-5: block\n"
+                                        "face block/face-6: block\n");
+    EXPECT_TRUE(result.notes.empty());
+}
+
+TEST(StepFile, anAssemblyIsAPartAndEachUseOfAProductABody)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TopoDS_Shape shape = box({0, 0, 0}, {1, 1, 1});
+        const TDF_Label rotor = assembly(tool, "rotor");
+        const TDF_Label blade = product(tool, shape, "blade");
+        nameSubShape(tool, blade, first(shape, TopAbs_FACE), "root");
+        tool.AddComponent(rotor, blade, TopLoc_Location());
+        tool.AddComponent(rotor, blade, shifted(shape, 5).Location());
+    });
+
+    const CadResult result = read(content);
+
+    EXPECT_EQ(bodiesOf(result), "body blade in rotor\nbody blade-2 in rotor\n");
+    EXPECT_TRUE(listingOf(*result.model).find("face blade/root: ") != std::string::npos);
+    EXPECT_TRUE(listingOf(*result.model).find("face blade-2/root: ") != std::string::npos);
+    EXPECT_EQ(result.model->faces().size(), 12U);
+    EXPECT_EQ(result.notes, (Strings{"Body \"blade\" is called \"blade-2\" here, because \"blade\" is taken."}));
+}
+
+TEST(StepFile, aProductWithSeveralSolidsIsAPart)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TopoDS_Shape left = box({0, 0, 0}, {1, 1, 1});
+        const TopoDS_Shape right = box({5, 0, 0}, {6, 1, 1});
+        const TDF_Label pair = product(tool, compound({left, right}), "pair");
+        nameSubShape(tool, pair, right, "right");
+    });
+
+    const CadResult result = read(content);
+
+    EXPECT_EQ(bodiesOf(result), "body body-1 in pair\nbody right in pair\n");
+}
+
+TEST(StepFile, nestedAssembliesArePartsSideBySide)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TDF_Label engine = assembly(tool, "engine");
+        const TDF_Label stage = assembly(tool, "stage");
+        tool.AddComponent(stage, product(tool, box({0, 0, 0}, {1, 1, 1}), "rotor"), TopLoc_Location());
+        tool.AddComponent(engine, stage, TopLoc_Location());
+    });
+
+    const CadResult result = read(content);
+
+    EXPECT_EQ(bodiesOf(result), "body rotor in stage\n");
+    EXPECT_EQ(result.notes,
+              (Strings{"Product \"stage\" lies within \"engine\"; parts do not nest, so it is a part beside it.",
+                       "Product \"engine\" has no solid directly below it, so no part stands for it."}));
+}
+
+TEST(StepFile, coloursAreToldAsLeftOut)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TDF_Label block = product(tool, box({0, 0, 0}, {1, 1, 1}), "block");
+        XCAFDoc_DocumentTool::ColorTool(block)->SetColor(block, Quantity_Color(Quantity_NOC_RED), XCAFDoc_ColorSurf);
+    });
+
+    EXPECT_EQ(read(content).notes, (Strings{"Left out, because a topology has no place for them: 1 colour or style."}));
+}
+
+TEST(StepFile, entitiesOfUnknownKindAreToldAsLeftOut)
+{
+    const std::string content =
+        replaced(boxCalled("block"), "ENDSEC;\nEND-ISO", "#9999 = FLUX_CAPACITOR('',1.21);\nENDSEC;\nEND-ISO");
+
+    EXPECT_EQ(read(content).notes,
+              (Strings{"Left out, because the reader does not know these kinds of entity: 1 FLUX_CAPACITOR."}));
+}
+
+TEST(StepFile, surfacesBesideSolidsAreToldAsLeftOut)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TDF_Label all = assembly(tool, "all");
+        const TopoDS_Shape spare = box({5, 0, 0}, {6, 1, 1});
+        tool.AddComponent(all, product(tool, box({0, 0, 0}, {1, 1, 1}), "block"), TopLoc_Location());
+        tool.AddComponent(all, product(tool, first(spare, TopAbs_SHELL), "skin"), TopLoc_Location());
+    });
+
+    const CadResult result = read(content);
+
+    EXPECT_EQ(bodiesOf(result), "body block in all\n");
+    EXPECT_EQ(result.notes, (Strings{"Left out, because they bound no solid: 1 shell."}));
+}
+
+TEST(StepFile, namesInOtherAlphabetsArrive)
+{
+    EXPECT_EQ(bodiesOf(read(boxCalled("K\\X2\\00FC\\X0\\hlmittel \\X2\\51B7\\X0\\"))), "body Kühlmittel 冷\n");
+    EXPECT_EQ(bodiesOf(read(boxCalled("Kühlmittel"))), "body Kühlmittel\n");
+    EXPECT_EQ(bodiesOf(read(boxCalled("inner \\\\ ''wall''"))), "body inner \\ 'wall'\n");
+}
+
+TEST(StepFile, aNameThatCannotBeAnIdIsMappedAndTold)
+{
+    const CadResult result = read(boxCalled(" water, cold "));
+
+    EXPECT_EQ(bodiesOf(result), "body water_ cold\n");
+    EXPECT_EQ(result.notes,
+              (Strings{"Body \" water, cold \" is called \"water_ cold\" here, because an id has no comma, "
+                       "no control character and no blank at its ends."}));
+}
+
+TEST(StepFile, bytesOfNoAlphabetDoNoHarm) { EXPECT_EQ(read(boxCalled("\xff\xfe\xe4")).model->bodies().size(), 1U); }
+
+} // namespace
