@@ -52,17 +52,31 @@ public:
 
     bool parse_error(std::size_t position, const std::string&, const nlohmann::json::exception& error) override
     {
-        // The library's text begins with "[json.exception...] parse error at line L, column C: ".
-        std::string reason = error.what();
+        const std::size_t offset = position == 0 ? 0 : position - 1;
+        throw JsonError(m_document.prefix(offset) + "this is not valid JSON: " + reasonAt(offset, error) + ".");
+    }
+
+private:
+    /// The parser's reason, but for what it calls the end of input and is not.
+    std::string reasonAt(std::size_t offset, const nlohmann::json::exception& error) const
+    {
+        const std::string& text = m_document.m_text;
+        if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+            return "there is nothing in it";
+        }
+        if (offset < text.size() && text[offset] == '\0') {
+            return "there is a zero byte";
+        }
+        // The parser's text begins with "[json.exception...] parse error at line L, column C: ", and it may
+        // quote bytes that are no text.
+        std::string reason = nlohmann::json::parse(inQuotes(error.what())).get<std::string>();
         reason.erase(0, reason.find("] ") + 2);
         if (reason.rfind("parse error", 0) == 0) {
             reason.erase(0, reason.find(": ") + 2);
         }
-        throw JsonError(m_document.prefix(position == 0 ? 0 : position - 1) + "this is not valid JSON: " + reason +
-                        ".");
+        return reason;
     }
 
-private:
     nlohmann::json* place(nlohmann::json value)
     {
         if (m_open.empty()) {

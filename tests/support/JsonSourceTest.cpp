@@ -81,14 +81,22 @@ TEST(JsonSource, aFolderIsRefused)
 
 TEST(JsonSource, invalidTextIsRefusedWhereItBreaks)
 {
-    EXPECT_EQ(refusalOf(""), "a.json:1:1: this is not valid JSON: syntax error while parsing value - unexpected end of "
-                             "input; expected '[', '{', or a literal.");
+    EXPECT_EQ(refusalOf(""), "a.json:1:1: this is not valid JSON: there is nothing in it.");
+    EXPECT_EQ(refusalOf(" \n"), "a.json:2:1: this is not valid JSON: there is nothing in it.");
     EXPECT_EQ(refusalOf("{\n  \"a\": 1,\n}"),
               "a.json:3:1: this is not valid JSON: syntax error while parsing object key - unexpected '}'; expected "
               "string literal.");
     EXPECT_EQ(refusalOf("[1]\n[2]"),
               "a.json:2:1: this is not valid JSON: syntax error while parsing value - unexpected "
               "'['; expected end of input.");
+}
+
+TEST(JsonSource, bytesThatAreNoTextAreRefused)
+{
+    EXPECT_EQ(refusalOf(std::string("[1,\0 2]", 7)), "a.json:1:4: this is not valid JSON: there is a zero byte.");
+    EXPECT_EQ(refusalOf("[\"a\xFF\"]"),
+              "a.json:1:4: this is not valid JSON: syntax error while parsing value - invalid "
+              "string: ill-formed UTF-8 byte; last read: '\"a\xEF\xBF\xBD'.");
 }
 
 TEST(JsonSource, aNumberTooLargeToHoldIsRefused)
