@@ -1,0 +1,100 @@
+#include "apps/CaseTool.h"
+
+#include "apps/InputError.h"
+#include "apps/Output.h"
+#include "apps/verbs/BuildVerb.h"
+#include "apps/verbs/TopologyVerb.h"
+#include "support/InQuotes.h"
+#include "support/NearestName.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <exception>
+#include <ostream>
+#include <sstream>
+
+namespace physics::apps {
+namespace {
+
+/// The parser only says that a word is not expected; we know what was meant.
+void refuseUnknownVerb(const std::vector<std::unique_ptr<Verb>>& verbs, const std::vector<std::string>& arguments)
+{
+    if (arguments.empty() || arguments.front().rfind('-', 0) == 0) {
+        return;
+    }
+    std::vector<std::string> names;
+    for (const std::unique_ptr<Verb>& verb : verbs) {
+        names.push_back(verb->name());
+    }
+    if (std::find(names.begin(), names.end(), arguments.front()) == names.end()) {
+        throw InputError("physics-case: there is no verb " + gtm::support::inQuotes(arguments.front()) +
+                         gtm::support::hintForName(arguments.front(), names));
+    }
+}
+
+/// The parser's message as one line of ours.
+std::string lineOf(const CLI::ParseError& error)
+{
+    std::string line = error.what();
+    line.erase(line.find_last_not_of(".\r\n ") + 1);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return "physics-case: " + line + "; try \"physics-case --help\".";
+}
+
+ExitCode parseAndRun(const std::vector<std::string>& arguments, Output& output)
+{
+    CLI::App app("Builds and looks at the physics set-up of fluid-dynamics cases.", "physics-case");
+    app.require_subcommand(1);
+    app.footer("Exit code: 0 fine, 1 the case has problems, 2 usage or unreadable input, 3 a fault of ours.");
+    const std::vector<std::unique_ptr<Verb>> verbs = allVerbs();
+    std::vector<CLI::App*> parsers;
+    for (const std::unique_ptr<Verb>& verb : verbs) {
+        parsers.push_back(app.add_subcommand(verb->name(), verb->summary()));
+        verb->addOptions(*parsers.back());
+    }
+    refuseUnknownVerb(verbs, arguments);
+    try {
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::Success& help) {
+        app.exit(help, output.out(), output.out());
+        return ExitCode::Fine;
+    } catch (const CLI::ParseError& error) {
+        throw InputError(lineOf(error));
+    }
+    const auto used =
+        std::find_if(parsers.begin(), parsers.end(), [](const CLI::App* parser) { return parser->parsed(); });
+    return verbs[static_cast<std::size_t>(used - parsers.begin())]->run(output);
+}
+
+} // namespace
+
+std::vector<std::unique_ptr<Verb>> allVerbs()
+{
+    std::vector<std::unique_ptr<Verb>> verbs;
+    verbs.push_back(std::make_unique<TopologyVerb>());
+    verbs.push_back(std::make_unique<BuildVerb>());
+    return verbs;
+}
+
+ExitCode runCaseTool(const std::vector<std::string>& arguments, Output& output)
+{
+    try {
+        const ExitCode code = parseAndRun(arguments, output);
+        if (!output.out().flush()) {
+            throw InputError("physics-case: cannot write the result; is the disk full?");
+        }
+        return code;
+    } catch (const InputError& error) {
+        for (const std::string& line : error.lines()) {
+            output.complain(line);
+        }
+        return ExitCode::BadInput;
+    } catch (const std::exception& error) {
+        output.complain("physics-case: a fault of this program: " + std::string(error.what()) +
+                        ". Please report it together with the input.");
+        return ExitCode::OurFault;
+    }
+}
+
+} // namespace physics::apps

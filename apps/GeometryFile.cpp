@@ -1,0 +1,77 @@
+#include "apps/GeometryFile.h"
+
+#include "apps/InputError.h"
+#include "locationmodel/LocationModel.h"
+#include "locationmodel/TopologyBuilder.h"
+#include "locationmodel/TopologyFile.h"
+
+#ifdef PHYSICS_HAS_CAD
+#include "importers/cad/CadReader.h"
+#endif
+
+#include <algorithm>
+#include <utility>
+
+namespace physics::apps {
+namespace {
+
+std::string extensionOf(const std::filesystem::path& file)
+{
+    std::string extension = file.extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return extension;
+}
+
+GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
+{
+#ifdef PHYSICS_HAS_CAD
+    gtm::bundled::CadResult result = gtm::bundled::readCad(file, {imprint});
+    GeometryFile geometry;
+    geometry.model = std::move(result.model);
+    geometry.notes = std::move(result.notes);
+    return geometry;
+#else
+    static_cast<void>(imprint);
+    throw InputError(file.string() + ": this program was built without the reader of geometry files; make a topology "
+                                     "file of it elsewhere.");
+#endif
+}
+
+GeometryFile readTopologyFile(const std::filesystem::path& file, std::optional<bool> imprint)
+{
+    if (imprint) {
+        throw InputError(file.string() + ": a topology file has no shapes that could be imprinted; leave that choice "
+                                         "out.");
+    }
+    GeometryFile geometry;
+    geometry.model = gtm::bundled::readTopology(file);
+    return geometry;
+}
+
+} // namespace
+
+GeometryFile::GeometryFile() = default;
+GeometryFile::GeometryFile(GeometryFile&&) noexcept = default;
+GeometryFile& GeometryFile::operator=(GeometryFile&&) noexcept = default;
+GeometryFile::~GeometryFile() = default;
+
+GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool> imprint)
+{
+    const std::string extension = extensionOf(file);
+    try {
+        if (extension == ".json") {
+            return readTopologyFile(file, imprint);
+        }
+        if (extension == ".step" || extension == ".stp" || extension == ".brep" || extension == ".brp") {
+            return readCadFile(file, imprint);
+        }
+    } catch (const gtm::bundled::TopologyError& error) {
+        throw InputError(error.what());
+    }
+    throw InputError(file.string() +
+                     ": cannot tell the kind of this file; its name should end in .json for a topology file, or in "
+                     ".step, .stp, .brep or .brp for a geometry file.");
+}
+
+} // namespace physics::apps

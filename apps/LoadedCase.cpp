@@ -1,0 +1,85 @@
+#include "apps/LoadedCase.h"
+
+#include "apps/CaseReader.h"
+#include "apps/CaseReferences.h"
+#include "apps/Complaints.h"
+#include "apps/InputError.h"
+#include "apps/Output.h"
+#include "locationmodel/LocationModel.h"
+#include "physics/Physics.h"
+#include "support/JsonSource.h"
+
+namespace physics::apps {
+namespace {
+
+using gtm::support::JsonError;
+using gtm::support::JsonSource;
+
+JsonSource parse(const std::filesystem::path& file)
+{
+    try {
+        return JsonSource::fromFile(file);
+    } catch (const JsonError& error) {
+        throw InputError(error.what());
+    }
+}
+
+/// The complaints as lines, the last of which tells when there are more.
+std::vector<std::string> linesOf(const Complaints& complaints, const JsonSource& source)
+{
+    std::vector<std::string> lines = complaints.lines();
+    if (complaints.isFull()) {
+        lines.push_back(source.name() + ": there may be more; these are the first " + std::to_string(Complaints::most) +
+                        ".");
+    }
+    return lines;
+}
+
+void add(const std::vector<Problem>& problems, const JsonSource& source, Complaints& complaints)
+{
+    for (const Problem& problem : problems) {
+        if (complaints.isFull()) {
+            return;
+        }
+        complaints.add(source.place(problem.path) + problem.sentence);
+    }
+}
+
+CaseFile readChecked(const JsonSource& source)
+{
+    Complaints complaints;
+    CaseFile file = readCase(source, complaints);
+    add(checkReferences(file), source, complaints);
+    if (!complaints.isEmpty()) {
+        throw InputError(linesOf(complaints, source));
+    }
+    return file;
+}
+
+/// The name of the geometry file is relative to the case file, so that both can be moved together.
+GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, const std::filesystem::path& caseFile)
+{
+    try {
+        return readGeometry(caseFile.parent_path() / file.geometry.file, file.geometry.imprint);
+    } catch (const InputError& error) {
+        throw InputError(source.place(file.geometry.path) + "the geometry cannot be used. " + error.what());
+    }
+}
+
+} // namespace
+
+LoadedCase::LoadedCase(const std::filesystem::path& file, Output& output)
+{
+    const JsonSource source = parse(file);
+    m_caseFile = readChecked(source);
+    m_geometry = readGeometryOf(m_caseFile, source, file);
+    for (const std::string& note : m_geometry.notes) {
+        output.note(note);
+    }
+    m_built = buildCase(m_caseFile, *m_geometry.model);
+    Complaints complaints;
+    add(m_built.refusals, source, complaints);
+    m_refusals = linesOf(complaints, source);
+}
+
+} // namespace physics::apps

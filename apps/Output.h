@@ -1,0 +1,33 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+namespace physics::apps {
+
+/// Where a verb writes: results to `out`, complaints and notes to `err`. Colours only where they are on.
+class Output {
+public:
+    /// Colours are for terminals: the caller knows.
+    Output(std::ostream& out, std::ostream& err, bool isOutColored, bool isErrColored)
+        : m_out(out), m_err(err), m_isOutColored(isOutColored), m_isErrColored(isErrColored)
+    {}
+
+    std::ostream& out() { return m_out; }
+
+    /// A heading of a result.
+    void heading(std::string_view text);
+
+    /// One line about something wrong, or about something to know.
+    void complain(std::string_view line);
+    void note(std::string_view line);
+
+private:
+    std::ostream& m_out;
+    std::ostream& m_err;
+    bool m_isOutColored;
+    bool m_isErrColored;
+};
+
+} // namespace physics::apps

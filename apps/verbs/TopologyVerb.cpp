@@ -1,0 +1,43 @@
+#include "apps/verbs/TopologyVerb.h"
+
+#include "apps/GeometryFile.h"
+#include "apps/Output.h"
+#include "apps/TopologyListing.h"
+#include "locationmodel/LocationModel.h"
+#include "locationmodel/TopologyFile.h"
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+#include <ostream>
+
+namespace physics::apps {
+
+std::string TopologyVerb::summary() const { return "List the parts, bodies, faces and solver zones of a file"; }
+
+void TopologyVerb::addOptions(CLI::App& app)
+{
+    app.add_option("file", m_file, "A topology file (.json) or a geometry file (.step, .stp, .brep, .brp)")->required();
+    app.add_option("--format", m_format, "text: tables to read; json: a topology file")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+    CLI::Option* imprint = app.add_flag("--imprint", m_imprint, "Make touching bodies share faces (default for STEP)");
+    app.add_flag("--no-imprint", m_noImprint, "Take the faces as they are (default for BREP)")->excludes(imprint);
+}
+
+ExitCode TopologyVerb::run(Output& output)
+{
+    const std::optional<bool> imprint = m_imprint || m_noImprint ? std::optional(m_imprint) : std::nullopt;
+    const GeometryFile geometry = readGeometry(m_file, imprint);
+    for (const std::string& note : geometry.notes) {
+        output.note(note);
+    }
+    if (m_format == "json") {
+        output.out() << gtm::bundled::writeTopology(*geometry.model);
+    } else {
+        listTopology(*geometry.model, output);
+    }
+    return ExitCode::Fine;
+}
+
+} // namespace physics::apps

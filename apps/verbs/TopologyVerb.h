@@ -1,0 +1,22 @@
+#pragma once
+
+#include "apps/Verb.h"
+
+namespace physics::apps {
+
+/// Lists what a topology or geometry file holds.
+class TopologyVerb final : public Verb {
+public:
+    std::string name() const override { return "topology"; }
+    std::string summary() const override;
+    void addOptions(CLI::App& app) override;
+    ExitCode run(Output& output) override;
+
+private:
+    std::string m_file;
+    std::string m_format = "text";
+    bool m_imprint = false;
+    bool m_noImprint = false;
+};
+
+} // namespace physics::apps
