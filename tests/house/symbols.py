@@ -3,7 +3,8 @@
 
 usage: symbols.py LIBRARY NAMESPACE [FOREIGN_NAMESPACE...]
 
-NAMESPACE is the only one that the library may define symbols of. What it leaves undefined must come from the
+NAMESPACE is the only one that the library may define symbols of, but for the type information of a foreign class that
+has no source of its own: every library that uses it brings it, and the loader takes one. What it leaves undefined must come from the
 C or C++ runtime, or from one of the foreign namespaces; without any, undefined symbols are not looked at.
 """
 
@@ -23,8 +24,9 @@ def belongs_to(symbol, namespace):
     return re.match(rf"_Z{wrapped}N?[rVKRO]*{len(namespace)}{namespace}", symbol) is not None
 
 
-def foreign_definitions(symbols, namespace):
-    return [symbol for symbol in symbols if not belongs_to(symbol, namespace)]
+def foreign_definitions(symbols, namespace, foreign=()):
+    return [symbol for symbol in symbols if not belongs_to(symbol, namespace)
+            and not (symbol.startswith(("_ZTI", "_ZTS")) and any(belongs_to(symbol, other) for other in foreign))]
 
 
 def foreign_wishes(symbols, namespaces, runtime):
@@ -52,7 +54,7 @@ def readable(symbol):
 def main(library, namespace, *foreign):
     defined = dynamic_symbols(library, "--defined-only")
     findings = [f"{library}: shows {readable(symbol)}, which is not in namespace {namespace}"
-                for symbol in foreign_definitions(defined, namespace)]
+                for symbol in foreign_definitions(defined, namespace, foreign)]
     if foreign:
         findings += [f"{library}: wants {readable(symbol)}, which is neither in {' or '.join(foreign)} nor in the runtime"
                      for symbol in foreign_wishes(dynamic_symbols(library, "--undefined-only"), foreign,

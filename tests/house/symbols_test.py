@@ -32,6 +32,11 @@ class SymbolsTest(unittest.TestCase):
     def test_everything_else_is_foreign_even_when_it_mentions_the_namespace(self):
         self.assertEqual(symbols.foreign_definitions(OURS + FOREIGN, "physics"), FOREIGN)
 
+    def test_only_type_information_of_a_foreign_class_may_be_shown(self):
+        shown = ["_ZTIN3gtm6RegionE", "_ZTSN3gtm6RegionE", "_ZTVN3gtm6RegionE", "_ZTIN3foo6RegionE"]
+
+        self.assertEqual(symbols.foreign_definitions(shown, "physics", ["gtm"]), shown[2:])
+
     def test_a_library_may_want_the_runtime_and_the_foreign_namespace_it_names(self):
         wanted = ["_Znwm", "memcpy", "_ZN3gtm8Interior7destroyEv", "_ZTIN3gtm6RegionE"]
 
