@@ -4,8 +4,8 @@
 usage: symbols.py LIBRARY NAMESPACE [FOREIGN_NAMESPACE...]
 
 NAMESPACE is the only one that the library may define symbols of, but for the type information of a foreign class that
-has no source of its own: every library that uses it brings it, and the loader takes one. What it leaves undefined must come from the
-C or C++ runtime, or from one of the foreign namespaces; without any, undefined symbols are not looked at.
+has no source of its own: every library that uses it brings it, and the loader takes one. What it leaves undefined must
+come from the C or C++ runtime, or from one of the foreign namespaces; without any, undefined symbols are not looked at.
 """
 
 import re
