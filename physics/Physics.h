@@ -28,6 +28,7 @@ class Boundary;
 class BoundaryPatch;
 class Interface;
 class Model;
+class Region;
 class Registry;
 class Settings;
 class ThreadBundle;
@@ -196,6 +197,16 @@ public:
     /// listed volume, boundary and interface, one empty line between objects. A faulty boundary is reported
     /// with its own lines and by one line of its volume and of each of its interfaces.
     std::vector<std::string> validate(bool detailed, bool ignoreWarnings) const;
+
+    /// What the rules say against one object, or against the set-up as a whole when `region` is null.
+    struct Complaint {
+        const Region* region;
+        std::vector<std::string> lines;
+    };
+
+    /// What a detailed `validate` says, object by object in the same order, without the empty lines between.
+    /// Objects that nothing is said against are left out. Cheaper than asking the objects one by one.
+    std::vector<Complaint> complaints(bool ignoreWarnings) const;
 
     // ---- Names of types. Only the enumerations with a specialisation below have one.
 

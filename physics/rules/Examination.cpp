@@ -123,22 +123,34 @@ bool Physics::isPhysicsValid(bool lenient) const
 
 std::vector<std::string> Physics::validate(bool detailed, bool ignoreWarnings) const
 {
-    Examination examination(ignoreWarnings);
-    std::vector<std::string> lines = examination.linesOf(*this);
     if (!detailed)
-        return lines;
-    const auto appendAll = [&](const auto& objects) {
-        for (const auto* object : objects) {
-            std::vector<std::string> ofObject = examination.linesOf(*object);
-            if (!ofObject.empty() && !lines.empty())
-                lines.emplace_back();
-            append(lines, std::move(ofObject));
-        }
-    };
-    appendAll(volumes());
-    appendAll(boundaries());
-    appendAll(interfaces());
+        return Examination(ignoreWarnings).linesOf(*this);
+    std::vector<std::string> lines;
+    for (Complaint& complaint : complaints(ignoreWarnings)) {
+        if (!lines.empty())
+            lines.emplace_back();
+        append(lines, std::move(complaint.lines));
+    }
     return lines;
+}
+
+std::vector<Physics::Complaint> Physics::complaints(bool ignoreWarnings) const
+{
+    Examination examination(ignoreWarnings);
+    std::vector<Complaint> complaints;
+    const auto add = [&complaints](const Region* region, std::vector<std::string> lines) {
+        if (!lines.empty())
+            complaints.push_back({region, std::move(lines)});
+    };
+    const auto addAll = [&](const auto& objects) {
+        for (const auto* object : objects)
+            add(object, examination.linesOf(*object));
+    };
+    add(nullptr, examination.linesOf(*this));
+    addAll(volumes());
+    addAll(boundaries());
+    addAll(interfaces());
+    return complaints;
 }
 
 } // namespace physics

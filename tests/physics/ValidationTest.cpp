@@ -340,6 +340,24 @@ TEST_F(Validation, objectsAreReportedVolumesFirstThenBoundariesThenInterfaces)
                      "These problem MUST be fixed before solution can proceed.\n", boundaryHasError}));
 }
 
+TEST_F(Validation, complaintsTellWhatEachLineIsAbout)
+{
+    Volume* duct = volume("duct");
+    const Boundary* wrong = faulty(duct, "wrong");
+    tagged(duct, "contact");
+
+    const std::vector<Physics::Complaint> complaints = physics.complaints(false);
+
+    ASSERT_EQ(complaints.size(), 3U);
+    EXPECT_EQ(complaints[0].region, nullptr);
+    EXPECT_EQ(complaints[0].lines, (Lines{taggedHeader, " Boundary contact of type Wall bounding duct.\n", should}));
+    EXPECT_EQ(complaints[1].region, duct);
+    EXPECT_EQ(complaints[1].lines, Lines{boundaryHasError});
+    EXPECT_EQ(complaints[2].region, wrong);
+    EXPECT_EQ(complaints[2].lines, (Lines{aboutFaulty("wrong", "duct"), must}));
+    EXPECT_EQ(physics.complaints(true).size(), 2U);
+}
+
 TEST_F(Validation, changesNothing)
 {
     Boundary* wrong = faulty(volume("duct"), "wrong");
