@@ -4,7 +4,6 @@
 #include "support/JsonScanner.h"
 #include "support/JsonSource.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -16,6 +15,20 @@ std::string onOneLine(std::string_view pointer)
 {
     const std::string literal = inQuotes(pointer);
     return literal.substr(1, literal.size() - 2);
+}
+
+/// The position behind a piece of text that begins at `from`.
+JsonPosition advanced(JsonPosition from, std::string_view piece)
+{
+    for (const char c : piece) {
+        const bool goesOn = (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; // a character begun before
+        if (c == '\n') {
+            from = {from.line + 1, 1};
+        } else if (!goesOn) {
+            ++from.column;
+        }
+    }
+    return from;
 }
 
 } // namespace
@@ -129,14 +142,23 @@ std::string JsonDocument::place(std::string_view pointer, At at) const
            (pointer.empty() ? "the top level" : onOneLine(pointer)) + ": ";
 }
 
+std::unordered_map<std::string, JsonPosition> JsonDocument::positions() const
+{
+    std::unordered_map<std::string, JsonPosition> positions;
+    JsonPosition position;
+    std::size_t reached = 0;
+    JsonScanner(m_text).walk([&](const std::string& pointer, std::size_t offset) {
+        position = advanced(position, std::string_view(m_text).substr(reached, offset - reached));
+        reached = offset;
+        positions.emplace(pointer, position);
+    });
+    return positions;
+}
+
 std::string JsonDocument::prefix(std::size_t offset) const
 {
-    offset = std::min(offset, m_text.size());
-    const auto end = m_text.begin() + static_cast<std::ptrdiff_t>(offset);
-    const auto line = 1 + std::count(m_text.begin(), end, '\n');
-    const std::size_t lineStart = offset == 0 ? std::string::npos : m_text.rfind('\n', offset - 1);
-    const std::size_t column = lineStart == std::string::npos ? offset + 1 : offset - lineStart;
-    return m_name + ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
+    const JsonPosition position = advanced({}, std::string_view(m_text).substr(0, offset));
+    return m_name + ":" + std::to_string(position.line) + ":" + std::to_string(position.column) + ": ";
 }
 
 } // namespace gtm::support

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "support/JsonSource.h"
+
 #include <nlohmann/json.hpp>
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace gtm::support {
 
@@ -22,6 +25,9 @@ public:
 
     /// "FILE:LINE:COLUMN: at PATH: ", for the value at a JSON pointer, or for the key in front of it.
     std::string place(std::string_view pointer, At at) const;
+
+    /// Where each value stands, by its JSON pointer.
+    std::unordered_map<std::string, JsonPosition> positions() const;
 
 private:
     class Parser;

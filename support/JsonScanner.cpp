@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <vector>
+
 namespace gtm::support {
 namespace {
 
@@ -17,6 +19,19 @@ std::string unescaped(std::string_view segment)
         }
     }
     return text;
+}
+
+std::string escaped(std::string_view key)
+{
+    std::string segment;
+    for (const char c : key) {
+        if (c == '~' || c == '/') {
+            segment += c == '~' ? "~0" : "~1";
+        } else {
+            segment += c;
+        }
+    }
+    return segment;
 }
 
 } // namespace
@@ -44,10 +59,7 @@ JsonScanner::Offsets JsonScanner::enter(std::string_view segment)
         Offsets here{m_at, m_at};
         std::string key;
         if (isObject) {
-            key = nlohmann::json::parse(readString()).get<std::string>();
-            skipBlanks();
-            ++m_at; // the colon
-            skipBlanks();
+            key = readKey();
             here.value = m_at;
         } else {
             key = std::to_string(index);
@@ -58,6 +70,43 @@ JsonScanner::Offsets JsonScanner::enter(std::string_view segment)
         skipValue();
         skipBlanks();
     }
+}
+
+void JsonScanner::walk(const std::function<void(const std::string& pointer, std::size_t offset)>& visit)
+{
+    struct Open {
+        bool isObject;
+        std::size_t lengthOfPointer;
+        std::size_t noOfValues;
+    };
+    std::vector<Open> open;
+    std::string pointer;
+    m_at = 0;
+    skipBlanks();
+    do {
+        visit(pointer, m_at);
+        if (m_text[m_at] == '{' || m_text[m_at] == '[') {
+            open.push_back({m_text[m_at] == '{', pointer.size(), 0});
+            ++m_at;
+        } else {
+            skipValue();
+        }
+        // Go on to the next value, over the ends of all that end here.
+        for (bool isAtValue = false; !isAtValue && !open.empty();) {
+            pointer.resize(open.back().lengthOfPointer);
+            skipBlanks();
+            if (m_text[m_at] == '}' || m_text[m_at] == ']') {
+                ++m_at;
+                open.pop_back();
+            } else if (m_text[m_at] == ',') {
+                ++m_at;
+            } else {
+                const std::size_t index = open.back().noOfValues++;
+                pointer += "/" + (open.back().isObject ? escaped(readKey()) : std::to_string(index));
+                isAtValue = true;
+            }
+        }
+    } while (!open.empty());
 }
 
 std::size_t JsonScanner::findKey(std::size_t number)
@@ -74,6 +123,15 @@ std::size_t JsonScanner::findKey(std::size_t number)
         }
         --m_at;
     }
+}
+
+std::string JsonScanner::readKey()
+{
+    std::string key = nlohmann::json::parse(readString()).get<std::string>();
+    skipBlanks();
+    ++m_at; // the colon
+    skipBlanks();
+    return key;
 }
 
 std::string_view JsonScanner::readString()

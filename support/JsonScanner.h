@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,12 +21,18 @@ public:
     /// The value at a JSON pointer that exists in the document.
     Offsets find(std::string_view pointer);
 
+    /// Calls `visit` for every value in the text, each before those in it.
+    void walk(const std::function<void(const std::string& pointer, std::size_t offset)>& visit);
+
     /// The `number`-th key in the text, counted from 1.
     std::size_t findKey(std::size_t number);
 
 private:
     Offsets enter(std::string_view segment);
     std::string_view readString();
+
+    /// Reads a key and what stands between it and its value.
+    std::string readKey();
     void skipValue();
     void skipBlanks();
 

@@ -43,4 +43,6 @@ std::string JsonSource::place(std::string_view pointer) const
     return m_document->place(pointer, JsonDocument::At::Value);
 }
 
+std::unordered_map<std::string, JsonPosition> JsonSource::positions() const { return m_document->positions(); }
+
 } // namespace gtm::support

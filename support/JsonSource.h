@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace gtm::support {
 
@@ -16,6 +17,12 @@ namespace gtm::support {
 class JsonError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+};
+
+/// A place in a text, counted from 1; columns count characters, not bytes.
+struct JsonPosition {
+    std::size_t line = 1;
+    std::size_t column = 1;
 };
 
 /// A parsed JSON document that knows where in its text each value stands. A cheap handle: copies share
@@ -35,6 +42,10 @@ public:
     /// "FILE:LINE:COLUMN: at PATH: " for the value at a JSON pointer that exists in the document: what a
     /// complaint begins with that is found after reading.
     std::string place(std::string_view pointer) const;
+
+    /// Where each value stands, by its JSON pointer: for whoever needs the places of very many values,
+    /// because the text is walked through once, and not for each.
+    std::unordered_map<std::string, JsonPosition> positions() const;
 
 private:
     explicit JsonSource(std::shared_ptr<const JsonDocument> document);

@@ -6,6 +6,9 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -120,6 +123,38 @@ TEST(JsonSource, deepNestingIsNoProblem)
     const std::size_t depth = 100000;
 
     EXPECT_EQ(refusalOf(std::string(depth, '[') + std::string(depth, ']')), "no error");
+}
+
+TEST(JsonSource, positionsAreThoseOfAllValues)
+{
+    const std::string text = "{\n  \"a\": [1, {}, [ ], \"x, ]\"],\n  \"b/c~d\": {\"e\": null}\n}";
+    const auto positions = JsonSource::fromText(text, "a.json").positions();
+
+    std::map<std::string, std::pair<std::size_t, std::size_t>> found;
+    for (const auto& [pointer, position] : positions) {
+        found[pointer] = {position.line, position.column};
+    }
+    const std::map<std::string, std::pair<std::size_t, std::size_t>> expected = {
+        {"", {1, 1}},      {"/a", {2, 8}},    {"/a/0", {2, 9}},      {"/a/1", {2, 12}},
+        {"/a/2", {2, 16}}, {"/a/3", {2, 21}}, {"/b~1c~0d", {3, 12}}, {"/b~1c~0d/e", {3, 18}},
+    };
+    EXPECT_EQ(found, expected);
+}
+
+TEST(JsonSource, positionsOfASingleValueAreItsOwn)
+{
+    const auto positions = JsonSource::fromText(" 7", "a.json").positions();
+
+    ASSERT_EQ(positions.size(), 1U);
+    EXPECT_EQ(positions.at("").column, 2U);
+}
+
+TEST(JsonSource, columnsCountCharacters)
+{
+    const JsonSource source = JsonSource::fromText("{\"\xC3\xA9\": [\"\xE2\x82\xAC\", 1]}", "a.json");
+
+    EXPECT_EQ(source.positions().at("/\xC3\xA9/1").column, 13U);
+    EXPECT_EQ(source.place("/\xC3\xA9/1").substr(0, 13), "a.json:1:13: ");
 }
 
 } // namespace
