@@ -6,6 +6,7 @@
 #include <BRepBuilderAPI_MakePolygon.hxx>
 #include <BRepBuilderAPI_MakeWire.hxx>
 #include <BRepOffsetAPI_ThruSections.hxx>
+#include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakeRevol.hxx>
 #include <GeomAPI_Interpolate.hxx>
 #include <Geom_BSplineCurve.hxx>
@@ -14,6 +15,7 @@
 #include <TopoDS_Shape.hxx>
 #include <TopoDS_Wire.hxx>
 #include <gp_Ax1.hxx>
+#include <gp_Ax2.hxx>
 #include <gp_Dir.hxx>
 #include <gp_Pnt.hxx>
 
@@ -32,6 +34,10 @@ constexpr double inletAt = -60;
 constexpr double screenBegin = 80;
 constexpr double screenEnd = 95;
 constexpr double outletAt = 200;
+constexpr double motorBegin = 100;
+constexpr double motorEnd = 160;
+constexpr double motorInnerRadius = 15;
+constexpr double motorOuterRadius = 70;
 
 /// A blade profile in the plane at one distance from the axis: chord in mm, stagger from the x axis.
 struct Profile {
@@ -90,11 +96,11 @@ gp_Pnt sectorPoint(double x, double radius, double angle)
     return {x, -radius * std::sin(angle), radius * std::cos(angle)};
 }
 
-TopoDS_Shape sector(double begin, double end)
+TopoDS_Shape sector(double begin, double end, double innerRadius = hubRadius, double outerRadius = shroudRadius)
 {
     const double start = -sectorAngle / 2;
-    BRepBuilderAPI_MakePolygon outline(sectorPoint(begin, hubRadius, start), sectorPoint(end, hubRadius, start),
-                                       sectorPoint(end, shroudRadius, start), sectorPoint(begin, shroudRadius, start),
+    BRepBuilderAPI_MakePolygon outline(sectorPoint(begin, innerRadius, start), sectorPoint(end, innerRadius, start),
+                                       sectorPoint(end, outerRadius, start), sectorPoint(begin, outerRadius, start),
                                        true);
     const gp_Ax1 axis(gp_Pnt(0, 0, 0), gp_Dir(1, 0, 0));
     return BRepPrimAPI_MakeRevol(BRepBuilderAPI_MakeFace(outline.Wire()).Shape(), axis, sectorAngle).Shape();
@@ -123,6 +129,25 @@ std::vector<NamedFace> ductFaces(double begin, double end, const std::string& do
             face(downstream, sectorPoint(end, mean, 0))};
 }
 
+/// The motor sits inside the hub and touches nothing that the air flows through. It is bored by a cut: the
+/// two sides of a plain sector are one shape in two places, which cannot have two names.
+NamedSolid motor()
+{
+    const gp_Ax2 axis(gp_Pnt(motorBegin, 0, 0), gp_Dir(1, 0, 0), gp_Dir(0, 0, -1));
+    const TopoDS_Shape bore = BRepPrimAPI_MakeCylinder(axis, motorInnerRadius, motorEnd - motorBegin).Shape();
+    const TopoDS_Shape whole = sector(motorBegin, motorEnd, motorInnerRadius / 2, motorOuterRadius);
+    const double middle = (motorBegin + motorEnd) / 2;
+    const double mean = (motorInnerRadius + motorOuterRadius) / 2;
+    return {"motor",
+            BRepAlgoAPI_Cut(whole, bore).Shape(),
+            {face("bore", sectorPoint(middle, motorInnerRadius, 0)),
+             face("casing", sectorPoint(middle, motorOuterRadius, 0)),
+             face("cut-minus", sectorPoint(middle, mean, -sectorAngle / 2)),
+             face("cut-plus", sectorPoint(middle, mean, sectorAngle / 2)),
+             face("front", sectorPoint(motorBegin, mean, 0)), face("back", sectorPoint(motorEnd, mean, 0))},
+            "drive"};
+}
+
 } // namespace
 
 std::vector<NamedSolid> fanPassage()
@@ -134,7 +159,8 @@ std::vector<NamedSolid> fanPassage()
     passage.faces.push_back(bladeFace("blade-pressure", -1));
     return {passage,
             {"screen", sector(screenBegin, screenEnd), ductFaces(screenBegin, screenEnd, "to-duct")},
-            {"duct", sector(screenEnd, outletAt), ductFaces(screenEnd, outletAt, "outlet")}};
+            {"duct", sector(screenEnd, outletAt), ductFaces(screenEnd, outletAt, "outlet")},
+            motor()};
 }
 
 } // namespace examples

@@ -10,7 +10,8 @@ namespace examples {
 /// hub and shroud, past one blade, through the screen and out of the duct. The sector reaches from
 /// -20 to +20 degrees about the x axis, so that every "periodic-minus" face turned by 40 degrees
 /// is the "periodic-plus" face of the same body. Bodies "passage" (fluid), "screen" (porous) and
-/// "duct" (fluid). Lengths in mm.
+/// "duct" (fluid); beside them, in an assembly "drive" of its own, the "motor" inside the hub. Lengths
+/// in mm.
 std::vector<NamedSolid> fanPassage();
 
 } // namespace examples

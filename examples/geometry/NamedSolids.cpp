@@ -22,6 +22,7 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <gp_Pnt.hxx>
 
+#include <map>
 #include <stdexcept>
 
 namespace examples {
@@ -101,15 +102,24 @@ void writeStep(const std::filesystem::path& file, const std::string& assembly, c
     Message::DefaultMessenger()->ChangePrinters().Clear();
     const Handle(TDocStd_Document) document = new TDocStd_Document("example");
     const Handle(XCAFDoc_ShapeTool) shapes = XCAFDoc_DocumentTool::ShapeTool(document->Main());
-    const TDF_Label top = shapes->NewShape();
-    TDataStd_Name::Set(top, assembly.c_str());
+    std::map<std::string, TDF_Label> assemblies;
+    const auto assemblyOf = [&](const NamedSolid& solid) {
+        const std::string& name = solid.assembly.empty() ? assembly : solid.assembly;
+        const auto [entry, isNew] = assemblies.try_emplace(name);
+        if (isNew) {
+            entry->second = shapes->NewShape();
+            TDataStd_Name::Set(entry->second, name.c_str());
+        }
+        return entry->second;
+    };
 
     const std::vector<TopoDS_Shape> fitted = fitTogether(solids);
     TopTools_MapOfShape named;
     for (std::size_t i = 0; i < solids.size(); ++i) {
         const TDF_Label body = shapes->AddShape(fitted[i], false);
         TDataStd_Name::Set(body, solids[i].name.c_str());
-        TDataStd_Name::Set(shapes->AddComponent(top, body, TopLoc_Location()), solids[i].name.c_str());
+        TDataStd_Name::Set(shapes->AddComponent(assemblyOf(solids[i]), body, TopLoc_Location()),
+                           solids[i].name.c_str());
         for (const NamedFace& face : solids[i].faces) {
             const TopoDS_Shape shape = faceOf(fitted[i], solids[i].name, face);
             if (!named.Add(shape))

@@ -22,11 +22,12 @@ struct NamedSolid {
     std::string name;
     TopoDS_Shape shape;
     std::vector<NamedFace> faces;
+    std::string assembly = {}; ///< another assembly beside that of the file; empty for that of the file
 };
 
 /// Fits the solids together, so that touching faces become common ones, and writes them as an
-/// assembly to a STEP file whose bytes are the same on every run. Throws `std::runtime_error` when a
-/// face has no name, or a name no face: the tables of an example would be wrong then.
+/// assembly, or several side by side, to a STEP file whose bytes are the same on every run. Throws `std::runtime_error`
+/// when a face has no name, or a name no face: the tables of an example would be wrong then.
 void writeStep(const std::filesystem::path& file, const std::string& assembly, const std::vector<NamedSolid>& solids);
 
 } // namespace examples

@@ -1,38 +1,11 @@
-#include "tests/apps/ToolRun.h"
+#include "tests/apps/ProgramRun.h"
 #include "tests/golden/Golden.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdlib>
 #include <string>
 
 namespace {
-
-/// What the real program does with a command line, run by a shell in the folder of the repository.
-struct ProgramRun {
-    explicit ProgramRun(const std::string& arguments)
-        : ProgramRun(arguments, TemporaryFile("out.txt", ""), TemporaryFile("err.txt", ""))
-    {}
-
-    int code = 0;
-    std::string out;
-    std::string err;
-
-private:
-    ProgramRun(const std::string& arguments, const TemporaryFile& outFile, const TemporaryFile& errFile)
-    {
-        const WorkingFolder folder(sourceFile(""));
-        const std::string command =
-            "'" PHYSICS_CASE_PROGRAM "' " + arguments + " >'" + outFile.path() + "' 2>'" + errFile.path() + "'";
-        const int status = std::system(command.c_str());
-        code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        out = contentOf(outFile.path());
-        err = contentOf(errFile.path());
-    }
-};
 
 TEST(Program, aGoodCaseIsBuiltAndListed)
 {

@@ -56,6 +56,7 @@ TEST(ExampleGeometry, theFanPassageHasAScreenBetweenPassageAndDuct)
     EXPECT_EQ(listingOf(*result.model), "body passage in fan_passage\n"
                                         "body screen in fan_passage\n"
                                         "body duct in fan_passage\n"
+                                        "body motor in drive\n"
                                         "face passage/hub: passage\n"
                                         "face passage/inlet: passage\n"
                                         "face passage/periodic-minus: passage\n"
@@ -73,7 +74,13 @@ TEST(ExampleGeometry, theFanPassageHasAScreenBetweenPassageAndDuct)
                                         "face duct/outlet: duct\n"
                                         "face duct/shroud: duct\n"
                                         "face duct/periodic-minus: duct\n"
-                                        "face duct/periodic-plus: duct\n");
+                                        "face duct/periodic-plus: duct\n"
+                                        "face motor/front: motor\n"
+                                        "face motor/cut-minus: motor\n"
+                                        "face motor/bore: motor\n"
+                                        "face motor/cut-plus: motor\n"
+                                        "face motor/casing: motor\n"
+                                        "face motor/back: motor\n");
     EXPECT_TRUE(result.notes.empty());
 }
 
