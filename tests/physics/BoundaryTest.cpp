@@ -26,6 +26,7 @@ using physics::Settings;
 using physics::SettingsType;
 using physics::ShellType;
 using physics::State;
+using physics::ThreadType;
 using physics::Volume;
 using physics::VolumeType;
 using Boundaries = std::vector<Boundary*>;
@@ -410,6 +411,20 @@ TEST_F(BoundaryTest, losesThePatchOfAnEndedInterfaceWithItsSettings)
     EXPECT_EQ(physics.findSettingsById(id), nullptr);
 }
 
+TEST_F(BoundaryTest, keepsTheZonesOfItsOwnPatchWhenAnInterfaceEnds)
+{
+    world.sideZones(middle.first, {{5, 0}});
+    auto* own = wall->boundarySettings(nullptr)->createThreadBundle(0, ThreadType::Wall, 1, {});
+    ASSERT_EQ(physics.findThreadBundleByZoneId(5), own);
+    Interface* joint = interface("joint", wall, opposite);
+    wall->boundarySettings(joint)->createThreadBundle(0, ThreadType::Wall, 2, {});
+
+    joint->destroy();
+
+    EXPECT_EQ(physics.findThreadBundleByZoneId(5), own);
+    EXPECT_EQ(physics.findThreadBundleByThreadId(2), nullptr);
+}
+
 // ---- Settings
 
 TEST_F(BoundaryTest, findsTheSettingsOfAPatchInTheModelForTheirKind)
@@ -543,6 +558,15 @@ TEST_F(BoundaryTest, isNotCoveredByFacesThatItDoesNotShare)
     EXPECT_EQ(wall->hasExternalRegion(), 2);
 }
 
+TEST_F(BoundaryTest, isNotCoveredByMissingFaceUses)
+{
+    interface("joint", wall, opposite);
+    answers().faceUses = {nullptr, inlet.first};
+    scripted::answersOf(opposite->boundary()).faceUses = {nullptr};
+
+    EXPECT_EQ(wall->hasExternalRegion(), 2);
+}
+
 // ---- Placement
 
 TEST_F(BoundaryTest, relocatesInTheLocationModel)
@@ -621,7 +645,7 @@ TEST_F(BoundaryTest, itsSettingsEndWithIt)
     Model* shell = physics.createModel();
     wall->setShellModel(shell);
     Settings* volumeSide = wall->boundarySettings(nullptr);
-    volumeSide->createThreadBundle(0, physics::ThreadType::Wall, 7, {})->setZoneIds({3});
+    volumeSide->createThreadBundle(0, ThreadType::Wall, 7, {})->setZoneIds({3});
     const int volumeSideId = volumeSide->id();
     const int shellSideId = wall->shellSettings(nullptr)->id();
 
@@ -658,6 +682,22 @@ TEST_F(BoundaryTest, aDefaultOneIsSwitchedOffAndNotDestroyed)
     EXPECT_EQ(calls(), (Calls{R"(interior "fluid": activateDefaultBoundary(false))"}));
     EXPECT_FALSE(fluid->hasDefaultBoundary());
     EXPECT_EQ(fluid->boundaries(), Boundaries{wall});
+}
+
+TEST_F(BoundaryTest, twoOnOneDefaultLocationAreFoundAsTheLaterUntilOneOfThemEnds)
+{
+    Volume* older = physics.createDefaultVolume("older", VolumeType::Fluid);
+    Boundary* first = older->createDefaultBoundary("rest");
+    Volume* newer = physics.createDefaultVolume("newer", VolumeType::Fluid);
+    Boundary* second = newer->createDefaultBoundary("rest");
+    ASSERT_EQ(first->boundary(), second->boundary());
+    answers().pair = first->boundary();
+    EXPECT_EQ(wall->pair(), second);
+
+    first->destroy();
+
+    EXPECT_EQ(wall->pair(), nullptr);
+    EXPECT_EQ(physics.findBoundaryById(second->id()), second);
 }
 
 TEST_F(BoundaryTest, twoBoundariesWithOneIdStayOwnedAndTheNewerIsFound)

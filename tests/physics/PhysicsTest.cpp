@@ -245,6 +245,7 @@ TEST_F(PhysicsTest, keepsNoVolumeWhenTheLocationModelThrows)
     EXPECT_EQ(physics.volumes(), Volumes{});
     EXPECT_EQ(physics.primaryModel()->volumes(), Volumes{});
     EXPECT_EQ(physics.findVolumeById(volumeIdCounter()), nullptr);
+    EXPECT_EQ(physics.virtualTopology().interiors(), std::vector<gtm::Interior*>{});
     Volume* good = volume("good");
     EXPECT_EQ(physics.volumes(), Volumes{good});
 }
@@ -688,6 +689,7 @@ TEST_F(PhysicsInterfaceTest, takesBackAnInterfaceWhoseNameCannotBeLearnt)
     EXPECT_EQ(hotSide->noOfInterfaces(), 0);
     EXPECT_EQ(coldSide->noOfInterfaces(), 0);
     EXPECT_EQ(physics.primaryModel()->interfaces(), Interfaces{});
+    EXPECT_EQ(physics.virtualTopology().noOfInterfaces(), 0U);
 }
 
 // ---- Lists over the whole set-up, threads and zones

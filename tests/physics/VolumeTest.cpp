@@ -226,6 +226,7 @@ TEST_F(VolumeTest, keepsNoBoundaryWhenTheLocationModelThrows)
 
     EXPECT_EQ(fluid->boundaries(), Boundaries{});
     EXPECT_EQ(physics.findBoundaryById(boundaryIdCounter()), nullptr);
+    EXPECT_EQ(fluid->interior()->boundaries(), std::vector<gtm::Boundary*>{});
     EXPECT_EQ(physics.settings(), std::vector<Settings*>{});
     Boundary* good = fluid->createBoundary("good", "inlet");
     EXPECT_EQ(fluid->boundaries(), Boundaries{good});
@@ -619,6 +620,20 @@ TEST_F(NonSharedMeshes, areReportedWithoutAClosingQuoteAtEachQuestion)
 
     EXPECT_EQ(printed.text(), "Error: Non-shared meshes on internal faces in volume \"fluid\n"
                               "Error: Non-shared meshes on internal faces in volume \"fluid\n");
+}
+
+TEST_F(NonSharedMeshes, areReportedWhenABundleAsksForItsZones)
+{
+    reportCreationFailures(physics);
+    const std::string message = "Error: Non-shared meshes on internal faces in volume \"fluid\n";
+
+    const PrintedText atCreation;
+    fluid->internalSettings()->createThreadBundle(0, physics::ThreadType::Interior, 1, {});
+    EXPECT_EQ(atCreation.text(), message);
+
+    const PrintedText atTheList;
+    EXPECT_EQ(physics.zoneIds(), std::vector{7});
+    EXPECT_EQ(atTheList.text(), message);
 }
 
 TEST_F(NonSharedMeshes, areReportedWhenAnElementDiffers)
