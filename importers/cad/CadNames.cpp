@@ -34,7 +34,7 @@ std::string CadNames::asId(std::string_view name)
 
 std::string CadNames::take(std::string_view kind, const std::string& said, const std::string& wanted)
 {
-    const std::string id = firstFree(wanted);
+    std::string id = firstFree(wanted);
     if (!said.empty() && id != said)
         m_notes.push_back(std::string(kind) + " \"" + onOneLine(said) + "\" is called \"" + id + "\" here, because " +
                           (id == wanted ? "an id has no comma, no control character and no blank at its ends."

@@ -82,6 +82,12 @@ public:
 
     void walk(const TDF_Label& label) { walk(label, TopLoc_Location(), nullptr); }
 
+    void noteOtherNames()
+    {
+        if (const std::string names = m_otherNames.text(); !names.empty())
+            note("Left out, because bodies and parts are called as their products: " + names + ".");
+    }
+
 private:
     /// A product that may become a part: it does with the first body directly below it.
     struct Product {
@@ -97,6 +103,7 @@ private:
         if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
             place = above * XCAFDoc_ShapeTool::GetLocation(label);
         Product product{nameOf(referred), assembly, {}};
+        countOtherName(nameOf(label), product, "name of an instance", "names of instances");
         if (!XCAFDoc_ShapeTool::IsAssembly(referred)) {
             addSolids(XCAFDoc_ShapeTool::GetShape(referred).Moved(place), product, assembly);
             return;
@@ -115,6 +122,12 @@ private:
         return product.FindAttribute(TDataStd_Name::GetID(), name) ? utf8(name->Get()) : std::string();
     }
 
+    void countOtherName(const std::string& name, const Product& product, const char* one, const char* many)
+    {
+        if (name != product.name && !CadNames::asId(name).empty())
+            m_otherNames.add(one, many, 1);
+    }
+
     void addSolids(const TopoDS_Shape& shape, Product& product, Product* assembly)
     {
         countLoose(shape, m_shapes.loose);
@@ -124,6 +137,8 @@ private:
         for (const TopoDS_Shape& shapeOfSolid : solids) {
             CadSolid& solid = addSolid(shapeOfSolid, m_shapes);
             solid.name = isOneSolid ? product.name : m_names.of(shapeOfSolid);
+            if (isOneSolid)
+                countOtherName(m_names.of(shapeOfSolid), product, "name of a solid", "names of solids");
             if (owner)
                 solid.part = partOf(*owner);
             for (CadFace& face : solid.faces)
@@ -147,6 +162,7 @@ private:
 
     const ShapeNames& m_names;
     CadShapes& m_shapes;
+    LeftOut m_otherNames;
 };
 
 /// What a STEP file may say besides shapes and names.
@@ -155,7 +171,7 @@ void noteOtherContent(const StepData_StepModel& model, std::vector<std::string>&
     LeftOut known;
     LeftOut unknown;
     for (int i = 1; i <= model.NbEntities(); ++i) {
-        const Handle(Standard_Transient) entity = model.Value(i);
+        const Handle(Standard_Transient)& entity = model.Value(i);
         if (entity->IsKind(STANDARD_TYPE(StepVisual_StyledItem)))
             known.add("colour or style", "colours and styles", 1);
         else if (entity->IsKind(STANDARD_TYPE(StepVisual_PresentationLayerAssignment)))
@@ -182,7 +198,7 @@ void refuseTruncated(const std::string& content)
 void refuseBrokenGrammar(const StepData_StepModel& model)
 {
     constexpr std::string_view mark = "Line ";
-    const Handle(Interface_Check) file = model.GlobalCheck();
+    const Handle(Interface_Check)& file = model.GlobalCheck();
     for (int i = 1; i <= file->NbFails(); ++i) {
         const std::string_view fail = file->CFail(i);
         if (const std::size_t at = fail.find(mark); at != std::string_view::npos)
@@ -204,7 +220,7 @@ bool isNeeded(const Standard_Transient& entity)
 void refuseDamagedEntities(const StepData_StepModel& model)
 {
     for (int i = 1; i <= model.NbEntities(); ++i) {
-        const Handle(Standard_Transient) entity = model.Value(i);
+        const Handle(Standard_Transient)& entity = model.Value(i);
         if (model.IsErrorEntity(i) && isNeeded(*entity))
             throw CadError("entity " + std::string(model.StringLabel(entity)->ToCString()) + " (" +
                            entity->DynamicType()->Name() + ") is damaged: " + model.Check(i, true)->CFail(1) +
@@ -252,6 +268,7 @@ CadShapes readStep(const std::string& content)
     XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(top);
     for (const TDF_Label& label : top)
         products.walk(label);
+    products.noteOtherNames();
     noteOtherContent(*reader.ChangeReader().StepModel(), shapes.notes);
     return shapes;
 }

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <ostream>
 #include <thread>
 
 namespace {
@@ -28,6 +28,13 @@ struct Counts {
     std::size_t faces;
     std::size_t shared;
 };
+
+void PrintTo(const Counts& counts, std::ostream* stream)
+{
+    *stream << counts.file;
+    if (counts.options.imprint)
+        *stream << (*counts.options.imprint ? ", imprinted" : ", not imprinted");
+}
 
 class PublicFile : public testing::TestWithParam<Counts> {
 protected:

@@ -12,6 +12,7 @@
 #include <StepData_Protocol.hxx>
 #include <StepData_StepModel.hxx>
 #include <StepData_StepWriter.hxx>
+#include <TCollection_ExtendedString.hxx>
 #include <TDF_Label.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
@@ -91,6 +92,15 @@ TDF_Label assembly(XCAFDoc_ShapeTool& tool, const std::string& name)
     const TDF_Label label = tool.NewShape();
     TDataStd_Name::Set(label, name.c_str());
     return label;
+}
+
+void addTo(XCAFDoc_ShapeTool& tool, const TDF_Label& assembly, const TDF_Label& product, const TopLoc_Location& place,
+           const std::string& name)
+{
+    Handle(TDataStd_Name) own;
+    product.FindAttribute(TDataStd_Name::GetID(), own);
+    const TCollection_ExtendedString given = name.empty() ? own->Get() : TCollection_ExtendedString(name.c_str());
+    TDataStd_Name::Set(tool.AddComponent(assembly, product, place), given);
 }
 
 void nameSubShape(XCAFDoc_ShapeTool& tool, const TDF_Label& product, const TopoDS_Shape& shape, const std::string& name)

@@ -7,6 +7,7 @@
 #include <vector>
 
 class TDF_Label;
+class TopLoc_Location;
 class XCAFDoc_ShapeTool;
 
 namespace cadtests {
@@ -33,9 +34,13 @@ std::string brepOf(const TopoDS_Shape& shape);
 /// The content of a STEP file with the products that `fill` makes.
 std::string stepOf(const std::function<void(XCAFDoc_ShapeTool&)>& fill);
 
-/// Makes a product; an empty compound of the tool's own makes an assembly.
+/// Makes a product, or an assembly to which instances of products can be added.
 TDF_Label product(XCAFDoc_ShapeTool& tool, const TopoDS_Shape& shape, const std::string& name);
 TDF_Label assembly(XCAFDoc_ShapeTool& tool, const std::string& name);
+/// Puts an instance of a product into an assembly, named as the product unless told otherwise.
+void addTo(XCAFDoc_ShapeTool& tool, const TDF_Label& assembly, const TDF_Label& product, const TopLoc_Location& place,
+           const std::string& name = {});
+
 void nameSubShape(XCAFDoc_ShapeTool& tool, const TDF_Label& product, const TopoDS_Shape& shape,
                   const std::string& name);
 
