@@ -2,6 +2,7 @@
 
 #include "physics/Region.h"
 
+#include <iosfwd>
 #include <memory>
 #include <set>
 #include <string>
@@ -44,6 +45,7 @@ public:
     /// True when the boundary has no face use.
     bool isEmpty() const override;
     std::vector<std::string> validate(bool ignoreWarnings) const override;
+    void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
     BoundaryType type() const { return m_type; }

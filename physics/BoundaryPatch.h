@@ -4,6 +4,7 @@
 #include "physics/Lifetime.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 
@@ -54,6 +55,10 @@ public:
 
     /// The name of an undivided boundary; else "BOUNDARY - INTERFACE" or "BOUNDARY - NON-OVERLAPPING".
     std::string name() const;
+
+    /// Writes a framed block about the patch and its settings for people. `closes` asks for a rule at its
+    /// end. Nothing is made: settings that were not asked for yet are written "<NONE>".
+    void dump(std::ostream& stream, bool closes) const;
 
 private:
     friend class Boundary;

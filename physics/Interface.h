@@ -3,6 +3,7 @@
 #include "physics/Region.h"
 
 #include <array>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,7 @@ public:
     /// True when both boundaries are empty.
     bool isEmpty() const override;
     std::vector<std::string> validate(bool ignoreWarnings) const override;
+    void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
     InterfaceType type() const { return m_type; }

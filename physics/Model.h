@@ -4,6 +4,7 @@
 #include "physics/Lifetime.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <map>
 #include <string>
 #include <vector>
@@ -84,6 +85,12 @@ public:
 
     /// All settings held here, by their ids.
     std::vector<Settings*> settings() const;
+
+    /// Writes a framed block about the model for people: its domains, and the ids of its members and settings.
+    void dump(std::ostream& stream) const;
+
+    /// Writes a table of the domains, by id, with the prefix in front of each line.
+    void dumpDomains(std::ostream& stream, const std::string& prefix) const;
 
     /// Ends the model. Its volumes, shells and interfaces live on without a model. The pointer is dead
     /// afterwards.

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstddef>
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -207,6 +208,14 @@ public:
     /// What a detailed `validate` says, object by object in the same order, without the empty lines between.
     /// Objects that nothing is said against are left out. Cheaper than asking the objects one by one.
     std::vector<Complaint> complaints(bool ignoreWarnings) const;
+
+    // ---- Reports
+
+    /// Lists the whole set-up for people: counts, validity, models, every object with its settings and
+    /// threads, what lies beside what. Nothing is made or printed elsewhere; settings that were not made yet
+    /// are left out. The flags, width, fill, precision and locale of the stream neither matter nor change.
+    /// The time is proportional to the length of the report, the judging of validity set apart.
+    void dump(std::ostream& stream) const;
 
     // ---- Names of types. Only the enumerations with a specialisation below have one.
 

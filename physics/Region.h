@@ -4,6 +4,7 @@
 #include "physics/Lifetime.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,11 @@ public:
     /// of each complaint says "MUST" for an error, "SHOULD" for a warning. `ignoreWarnings` leaves the
     /// warnings out.
     virtual std::vector<std::string> validate(bool ignoreWarnings) const = 0;
+
+    /// Writes a framed block about the object for people. `closes` asks for a rule at the end of every
+    /// block of a patch in it. Objects that are missing are written "<NONE>"; settings that were not made
+    /// yet count as missing and are not made.
+    virtual void dump(std::ostream& stream, bool closes) const = 0;
 
     /// Asks the location model for a new name and returns what it answers. The object keeps the place
     /// in ordered lists that the name at its creation gave it.

@@ -4,6 +4,7 @@
 #include "physics/Lifetime.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <map>
 #include <set>
 #include <string>
@@ -88,6 +89,10 @@ public:
 
     /// Whether there is a bundle, with or without handles.
     bool hasThreads() const { return !m_bundles.empty(); }
+
+    /// Writes a framed block about the settings for people, under the heading ("Settings" for an empty one).
+    /// `closes` is there for the likeness with the other blocks and changes nothing.
+    void dump(std::ostream& stream, bool closes, const std::string& heading) const;
 
 private:
     friend class BoundaryPatch;

@@ -4,8 +4,10 @@
 #include "physics/Lifetime.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <map>
 #include <set>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -72,6 +74,10 @@ public:
     /// the other side's boundary, and true when this is the volume-side settings object of side 0.
     /// On an interface: those of the two volumes. On internal faces: that of the volume, twice.
     std::tuple<ThreadBundle*, ThreadBundle*, ThreadBundle*, bool> adjacentThreadBundles() const;
+
+    /// Writes a line for people behind the prefix: index, thread id, type, domains, and the zones with a star
+    /// when they are the bundle's own. A long list goes on in further lines.
+    void dump(std::ostream& stream, const std::string& prefix) const;
 
 private:
     friend class Peek;

@@ -3,6 +3,7 @@
 #include "physics/Export.h"
 #include "physics/Types.h"
 
+#include <iosfwd>
 #include <map>
 #include <set>
 #include <utility>
@@ -65,6 +66,10 @@ public:
     /// Fixed rules that hold whatever tables were read back: the types that need fluid on both sides.
     bool isInternalBoundaryType(BoundaryType boundaryType) const;
     bool isSharedInterfaceType(InterfaceType interfaceType) const;
+
+    /// Lists the tables for people: every type, then the boundary types that each volume type (its default
+    /// type has a star), each interface type and each shell type allows.
+    void dump(std::ostream& stream) const;
 
 private:
     using BoundaryTypes = std::set<BoundaryType>;

@@ -4,6 +4,7 @@
 
 #include "gtm/Interior.h"
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,7 @@ public:
     /// True when the interior has no body.
     bool isEmpty() const override;
     std::vector<std::string> validate(bool ignoreWarnings) const override;
+    void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
     VolumeType type() const { return m_type; }

@@ -7,9 +7,11 @@ void appendList(std::string& text, std::string_view label, const std::vector<std
 {
     const bool hasBrackets = format.brackets != Brackets::None;
     const bool isSquare = format.brackets == Brackets::Square;
-    text += format.prefix;
+    const std::size_t labelEnd = format.column + label.size();
+    if (format.column == 0)
+        text += format.prefix;
     text += label;
-    std::size_t column = label.size();
+    std::size_t column = labelEnd;
     if (hasBrackets) {
         text += isSquare ? '[' : '{';
         ++column;
@@ -20,7 +22,7 @@ void appendList(std::string& text, std::string_view label, const std::vector<std
             text += format.separator;
         isFirst = false;
         if (column > format.width) {
-            column = label.size() + (hasBrackets ? 1 : 0);
+            column = labelEnd + (hasBrackets ? 1 : 0);
             text += '\n';
             text += format.prefix;
             text.append(column, ' ');

@@ -22,10 +22,11 @@ struct ListFormat {
     std::size_t width = 75;
     std::string_view separator = ", ";
     bool endsLine = true;
+    std::size_t column = 0; ///< how much of the line, behind the prefix, is written already
 };
 
 /// Appends a labelled list, wrapped so that no item begins behind the width. Continuation lines are
-/// indented by the length of the label; a line may end in the separator, and reaches past the width by
+/// indented to the end of the label; a line may end in the separator, and reaches past the width by
 /// its last item.
 void appendList(std::string& text, std::string_view label, const std::vector<std::string>& items,
                 const ListFormat& format = {});

@@ -7,6 +7,8 @@ int& counterOf(const physics::Volume*);
 int& counterOf(const physics::Boundary*);
 int& counterOf(const physics::Interface*);
 int& counterOf(const physics::Model*);
+int& counterOf(const physics::BoundaryPatch*);
+int& counterOf(const physics::Settings*);
 
 // An explicit instantiation may name private members; these hand them to the functions above.
 
@@ -25,6 +27,8 @@ template struct CounterOf<physics::Volume, &physics::Volume::s_lastUsedId>;
 template struct CounterOf<physics::Boundary, &physics::Boundary::s_lastUsedId>;
 template struct CounterOf<physics::Interface, &physics::Interface::s_lastUsedId>;
 template struct CounterOf<physics::Model, &physics::Model::s_lastUsedId>;
+template struct CounterOf<physics::BoundaryPatch, &physics::BoundaryPatch::s_lastUsedId>;
+template struct CounterOf<physics::Settings, &physics::Settings::s_lastUsedId>;
 
 } // namespace
 
@@ -34,3 +38,5 @@ int& volumeIdCounter() { return counterOf(static_cast<physics::Volume*>(nullptr)
 int& boundaryIdCounter() { return counterOf(static_cast<physics::Boundary*>(nullptr)); }
 int& interfaceIdCounter() { return counterOf(static_cast<physics::Interface*>(nullptr)); }
 int& modelIdCounter() { return counterOf(static_cast<physics::Model*>(nullptr)); }
+int& patchIdCounter() { return counterOf(static_cast<physics::BoundaryPatch*>(nullptr)); }
+int& settingsIdCounter() { return counterOf(static_cast<physics::Settings*>(nullptr)); }

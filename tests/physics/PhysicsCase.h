@@ -1,9 +1,11 @@
 #pragma once
 
 #include "physics/Boundary.h"
+#include "physics/BoundaryPatch.h"
 #include "physics/Interface.h"
 #include "physics/Model.h"
 #include "physics/Physics.h"
+#include "physics/Settings.h"
 #include "physics/Volume.h"
 #include "tests/scripted/World.h"
 
@@ -23,6 +25,8 @@ int& volumeIdCounter();
 int& boundaryIdCounter();
 int& interfaceIdCounter();
 int& modelIdCounter();
+int& patchIdCounter();
+int& settingsIdCounter();
 
 /// What is written to standard output as long as this lives.
 class PrintedText {
