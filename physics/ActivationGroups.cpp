@@ -36,13 +36,18 @@ int ActivationGroups::smallestFreeNumber() const
 
 void ActivationGroups::add(int number, const std::vector<Volume*>& volumes)
 {
+    restore(number, volumes);
+    for (Volume* volume : volumes)
+        volume->setActivationGroup(number);
+}
+
+void ActivationGroups::restore(int number, const std::vector<Volume*>& volumes)
+{
     std::vector<Link<Volume>> group(volumes.size());
     for (std::size_t i = 0; i < volumes.size(); ++i)
         group[i] = volumes[i];
     markUsed(number);
     m_groups[number] = std::move(group);
-    for (Volume* volume : volumes)
-        volume->setActivationGroup(number);
 }
 
 bool ActivationGroups::dissolve(int number)

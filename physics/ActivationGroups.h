@@ -27,6 +27,9 @@ public:
     /// Makes a group and gives its number to the volumes.
     void add(int number, const std::vector<Volume*>& volumes);
 
+    /// Makes a group of volumes that know their numbers already.
+    void restore(int number, const std::vector<Volume*>& volumes);
+
     /// Re-activates the volumes of a group and drops it; false when there is none.
     bool dissolve(int number);
 

@@ -17,14 +17,14 @@ namespace physics {
 
 int Boundary::s_lastUsedId = 0;
 
+Boundary::Boundary(int id, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
+    : m_id(id), m_type(type), m_boundary(boundary), m_volume(volume), m_isDefault(isDefault)
+{}
+
 Boundary::Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
-    : m_id(nextId(s_lastUsedId)),
-      m_type(type),
-      m_boundary(boundary),
-      m_volume(volume),
-      m_isDefault(isDefault),
-      m_ownPatch(new BoundaryPatch(this, nullptr))
+    : Boundary(nextId(s_lastUsedId), volume, type, boundary, isDefault)
 {
+    m_ownPatch.reset(new BoundaryPatch(this, nullptr));
     volume->add(this);
 }
 
@@ -115,10 +115,16 @@ std::vector<BoundaryTag> Boundary::tags() const { return {m_tags.begin(), m_tags
 
 BoundaryPatch* Boundary::addToInterface(Interface* interface)
 {
-    std::unique_ptr<BoundaryPatch> patch(new BoundaryPatch(this, interface));
-    std::unique_ptr<BoundaryPatch>& entry = m_interfacePatches[interface];
-    entry.swap(patch); // an interface with this boundary on both sides: the earlier patch ends here
-    return entry.get();
+    auto* patch = new BoundaryPatch(this, interface);
+    setPatch(interface, patch);
+    return patch;
+}
+
+/// An earlier patch for the interface ends, as with an interface that has this boundary on both sides.
+void Boundary::setPatch(const Interface* interface, BoundaryPatch* patch)
+{
+    std::unique_ptr<BoundaryPatch> owned(patch);
+    m_interfacePatches[interface].swap(owned);
 }
 
 /// The patch ends before its entry goes: until then the boundary counts it, so that the zones of an

@@ -22,8 +22,10 @@ class BoundaryPatch;
 class Interface;
 class Model;
 class Physics;
+class PhysicsSerialiser;
 class Settings;
 class Volume;
+struct BoundaryRecord;
 
 /// A named part of a volume's surface with one physical type, and the shell that may sit on it.
 ///
@@ -163,16 +165,22 @@ private:
     friend class BoundaryPatch;
     friend class Interface;
     friend class Model;
+    friend class PhysicsSerialiser;
     friend class Registry;
     friend class Volume;
 
     static int s_lastUsedId;
 
     Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault);
+    Boundary(int id, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault);
     ~Boundary();
+
+    BoundaryRecord serialise(const PhysicsSerialiser& serialiser) const;
+    static Boundary* restore(const PhysicsSerialiser& serialiser, const BoundaryRecord& record);
 
     BoundaryPatch* addToInterface(Interface* interface);
     bool removeFromInterface(Interface* interface);
+    void setPatch(const Interface* interface, BoundaryPatch* patch);
     Physics* physics() const;
     void appendSettings(std::vector<Settings*>& result, SettingsType kind) const;
     void appendInterfaceSettings(std::vector<Settings*>& result) const;

@@ -10,8 +10,12 @@ namespace physics {
 
 int BoundaryPatch::s_lastUsedId = 0;
 
+BoundaryPatch::BoundaryPatch(int id, Boundary* boundary, Interface* interface)
+    : m_id(id), m_boundary(boundary), m_interface(interface)
+{}
+
 BoundaryPatch::BoundaryPatch(Boundary* boundary, Interface* interface)
-    : m_id(nextId(s_lastUsedId)), m_boundary(boundary), m_interface(interface)
+    : BoundaryPatch(nextId(s_lastUsedId), boundary, interface)
 {}
 
 BoundaryPatch::~BoundaryPatch()

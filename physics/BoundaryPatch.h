@@ -13,8 +13,10 @@ namespace physics {
 class Boundary;
 class Interface;
 class Model;
+class PhysicsSerialiser;
 class Settings;
 class Volume;
+struct PatchRecord;
 
 /// The piece of a boundary that takes part in one interface, or (its interface is null) the piece that
 /// takes part in none. Made and ended by its boundary; the settings of a patch end with it.
@@ -62,13 +64,18 @@ public:
 
 private:
     friend class Boundary;
+    friend class Interface;
+    friend class PhysicsSerialiser;
     friend class Settings;
     friend struct std::default_delete<BoundaryPatch>;
 
     static int s_lastUsedId;
 
     BoundaryPatch(Boundary* boundary, Interface* interface);
+    BoundaryPatch(int id, Boundary* boundary, Interface* interface);
     ~BoundaryPatch();
+
+    PatchRecord serialise(const PhysicsSerialiser& serialiser) const;
 
     const int m_id;
     Boundary* m_boundary;

@@ -15,14 +15,14 @@ namespace physics {
 
 int Interface::s_lastUsedId = 0;
 
+Interface::Interface(Physics* physics, int id, InterfaceType type, Model* model, gtm::Interface* interface,
+                     Boundary* first, Boundary* second)
+    : m_id(id), m_type(type), m_model(model), m_interface(interface), m_physics(physics), m_boundaries{first, second}
+{}
+
 Interface::Interface(Physics* physics, InterfaceType type, Model* model, gtm::Interface* interface, Boundary* first,
                      Boundary* second)
-    : m_id(nextId(s_lastUsedId)),
-      m_type(type),
-      m_model(model),
-      m_interface(interface),
-      m_physics(physics),
-      m_boundaries{first, second}
+    : Interface(physics, nextId(s_lastUsedId), type, model, interface, first, second)
 {
     try {
         first->addToInterface(this);

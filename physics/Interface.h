@@ -17,8 +17,10 @@ class Boundary;
 class BoundaryPatch;
 class Model;
 class Physics;
+class PhysicsSerialiser;
 class Settings;
 class Volume;
+struct InterfaceRecord;
 
 /// Two boundaries that face each other, plainly or periodically, on an interface of the location model.
 ///
@@ -134,13 +136,19 @@ public:
 private:
     friend class Model;
     friend class Physics;
+    friend class PhysicsSerialiser;
     friend class Registry;
 
     static int s_lastUsedId;
 
     Interface(Physics* physics, InterfaceType type, Model* model, gtm::Interface* interface, Boundary* first,
               Boundary* second);
+    Interface(Physics* physics, int id, InterfaceType type, Model* model, gtm::Interface* interface, Boundary* first,
+              Boundary* second);
     ~Interface() = default;
+
+    InterfaceRecord serialise(const PhysicsSerialiser& serialiser) const;
+    static Interface* restore(const PhysicsSerialiser& serialiser, const InterfaceRecord& record);
 
     void rebind(const std::array<Boundary*, 2>& sides);
     void leaveBoundaries();

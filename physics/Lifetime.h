@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <unordered_map>
 #include <utility>
@@ -120,6 +121,21 @@ void sortOnceById(std::vector<T*>& objects)
 {
     sortById(objects);
     objects.erase(std::unique(objects.begin(), objects.end()), objects.end());
+}
+
+/// The listed objects in their order, then those of all objects that the list has lost, by id.
+template <class T>
+std::vector<T*> listedFirst(std::vector<T*> listed, std::vector<T*> all)
+{
+    if (listed.size() == all.size())
+        return listed;
+    std::vector<T*> known = listed;
+    std::sort(known.begin(), known.end(), std::less<T*>());
+    sortById(all);
+    for (T* object : all)
+        if (!std::binary_search(known.begin(), known.end(), object, std::less<T*>()))
+            listed.push_back(object);
+    return listed;
 }
 
 /// A pointer that owns nothing and answers null once its target has ended.
@@ -263,6 +279,7 @@ public:
     using PointerIndex<T, T>::contains;
     using PointerIndex<T, T>::erase;
     using PointerIndex<T, T>::isEmpty;
+    using PointerIndex<T, T>::objects; // in no particular order
     using PointerIndex<T, T>::size;
 
     void insert(T* object) { this->put(object, object); }

@@ -21,10 +21,9 @@ void append(std::vector<Settings*>& result, const std::vector<Settings*>& more)
 
 int Model::s_lastUsedId = 0;
 
-Model::Model(Physics* physics) : m_id(nextId(s_lastUsedId)), m_physics(physics)
-{
-    addDomain(1, DomainType::Geometry, "Default");
-}
+Model::Model(Physics* physics, int id) : m_id(id), m_physics(physics) {}
+
+Model::Model(Physics* physics) : Model(physics, nextId(s_lastUsedId)) { addDomain(1, DomainType::Geometry, "Default"); }
 
 void Model::addDomain(int id, DomainType type, const std::string& name)
 {
@@ -190,6 +189,24 @@ std::vector<Settings*> Model::settings() const
     append(result, m_interfaceSettings.objects());
     sortById(result);
     return result;
+}
+
+void Model::adopt(Settings* settings)
+{
+    switch (settings->topologyType()) {
+    case TopologyType::Volume:
+        m_volumeSettings.put(settings->volume(), settings);
+        break;
+    case TopologyType::Internal:
+        m_internalSettings.put(settings->volume(), settings);
+        break;
+    case TopologyType::Boundary:
+        (this->*patchSettingsMap(settings->type())).put(settings->boundaryPatch(), settings);
+        break;
+    case TopologyType::Interface:
+        m_interfaceSettings.put(settings->interface(), settings);
+        break;
+    }
 }
 
 void Model::add(Volume* volume)

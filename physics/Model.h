@@ -15,8 +15,10 @@ class Boundary;
 class BoundaryPatch;
 class Interface;
 class Physics;
+class PhysicsSerialiser;
 class Settings;
 class Volume;
+struct ModelRecord;
 
 /// One physics model of a set-up: its domains, the volumes, shells and interfaces that belong to it, and
 /// the place where their settings are found.
@@ -102,7 +104,9 @@ private:
     friend class Interface;
     friend class Peek;
     friend class Physics;
+    friend class PhysicsSerialiser;
     friend class Registry;
+    friend class Settings;
     friend class Volume;
 
     struct Domain {
@@ -115,8 +119,14 @@ private:
     static int s_lastUsedId;
 
     explicit Model(Physics* physics);
+    Model(Physics* physics, int id);
     ~Model() = default;
 
+    ModelRecord serialise(const PhysicsSerialiser& serialiser) const;
+    static Model* restore(const PhysicsSerialiser& serialiser, const ModelRecord& record);
+
+    /// Takes settings that were restored into the map of their kind.
+    void adopt(Settings* settings);
     void add(Volume* volume);
     void add(Boundary* boundary);
     void add(Interface* interface);

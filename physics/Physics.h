@@ -217,6 +217,23 @@ public:
     /// The time is proportional to the length of the report, the judging of validity set apart.
     void dump(std::ostream& stream) const;
 
+    // ---- The whole set-up as one text, with its interiors, boundaries, interfaces and mask. Not kept are
+    // ---- ended and detached objects, the values of periodicity, and the hosts' thread handles.
+
+    /// The text of the set-up: the same for the same set-up, whatever the process or its locale.
+    std::string serialise() const;
+
+    /// Replaces the set-up by that of a text. False when `checkSerialised` has something to say or the
+    /// location model refuses to make an entity, and then the set-up stays as it was; only if the location
+    /// model refuses what it granted at first, an empty set-up is left. All pointers to objects are dead
+    /// after a success, but those to interfaces. Ids and their counters become those of the text; objects
+    /// come back under the names that they have now.
+    bool restore(const std::string& text);
+
+    /// Why a text would be refused on this location model: one reason a line, each behind the number of a
+    /// line of the text; at most a hundred. Empty when it would be accepted.
+    std::vector<std::string> checkSerialised(const std::string& text) const;
+
     // ---- Names of types. Only the enumerations with a specialisation below have one.
 
     /// The name that reports print; empty for a value outside the enumeration.
@@ -262,6 +279,7 @@ private:
     friend class Interface;
     friend class Model;
     friend class Peek;
+    friend class PhysicsSerialiser;
     friend class Settings;
     friend class ThreadBundle;
     friend class Volume;

@@ -7,6 +7,8 @@
 #include "physics/ThreadBundle.h"
 #include "physics/Volume.h"
 
+#include <utility>
+
 namespace physics {
 
 Registry::~Registry()
@@ -105,21 +107,34 @@ void Registry::removeZones(ThreadBundle* bundle)
         bundlesByZoneId.erase(zoneId);
 }
 
+std::vector<Volume*> Registry::allVolumes() const { return listedFirst(volumesByName.objects(), m_volumes.objects()); }
+
+std::vector<Interface*> Registry::allInterfaces() const
+{
+    return listedFirst(interfacesByName.objects(), m_interfaces.objects());
+}
+
+std::vector<Boundary*> Registry::allBoundaries() const
+{
+    std::vector<Boundary*> listed;
+    for (const Volume* volume : volumesByName.objects())
+        for (Boundary* boundary : volume->boundaries())
+            listed.push_back(boundary);
+    std::vector<Boundary*> all;
+    for (const Volume* volume : m_volumes.objects())
+        for (Boundary* boundary : volume->ownedBoundaries())
+            all.push_back(boundary);
+    return listedFirst(std::move(listed), std::move(all));
+}
+
 void Registry::clear()
 {
     activationGroups.clear();
 
-    // Listed objects in the order of their lists, then what an index has lost, by id.
-    for (Interface* interface : interfacesByName.objects())
+    for (Interface* interface : allInterfaces())
         interface->destroy();
-    for (Interface* interface : m_interfaces.byId())
-        interface->destroy();
-    for (Volume* volume : volumesByName.objects())
+    for (Volume* volume : allVolumes())
         volume->destroy();
-    for (Volume* volume : m_volumes.byId())
-        volume->destroy();
-    for (Model* model : models.objects())
-        model->destroy();
     for (Model* model : m_models.byId())
         model->destroy();
     for (Settings* detached : m_settings.byId())

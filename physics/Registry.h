@@ -49,6 +49,17 @@ public:
     void remove(ThreadBundle* bundle);
     void removeZones(ThreadBundle* bundle);
 
+    // All live objects: the listed ones in the order of the lists, then those that an index has lost.
+    std::vector<Volume*> allVolumes() const;
+    std::vector<Boundary*> allBoundaries() const;
+    std::vector<Interface*> allInterfaces() const;
+
+    /// True when no object is left but ended interfaces.
+    bool isEmpty() const
+    {
+        return m_models.isEmpty() && m_volumes.isEmpty() && m_interfaces.isEmpty() && m_settings.isEmpty();
+    }
+
     /// Takes over an interface that has ended, to free it with the set-up.
     void keepEnded(Interface* interface) { m_endedInterfaces.push_back(interface); }
 

@@ -16,9 +16,9 @@ namespace physics {
 
 int Settings::s_lastUsedId = 0;
 
-Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
-                   Interface* interface)
-    : m_id(nextId(s_lastUsedId)),
+Settings::Settings(int id, Model* model, SettingsType type, TopologyType topologyType, Volume* volume,
+                   BoundaryPatch* patch, Interface* interface)
+    : m_id(id),
       m_physics(model->physics()),
       m_model(model),
       m_type(type),
@@ -29,6 +29,12 @@ Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, V
 {
     if (patch != nullptr)
         patch->m_settings.insert(this);
+}
+
+Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
+                   Interface* interface)
+    : Settings(nextId(s_lastUsedId), model, type, topologyType, volume, patch, interface)
+{
     m_physics->registry().add(this);
 }
 

@@ -18,8 +18,10 @@ class BoundaryPatch;
 class Interface;
 class Model;
 class Physics;
+class PhysicsSerialiser;
 class ThreadBundle;
 class Volume;
+struct SettingsRecord;
 
 /// The solver-facing set-up of a volume, of the internal faces of a volume, of one kind of a boundary
 /// patch, or of an interface: the solver threads that realise it.
@@ -97,17 +99,23 @@ public:
 private:
     friend class BoundaryPatch;
     friend class Model;
+    friend class PhysicsSerialiser;
     friend class Registry;
     friend class ThreadBundle;
 
     static int s_lastUsedId;
 
+    Settings(int id, Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
+             Interface* interface);
     Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
              Interface* interface);
     Settings(Model* model, Volume* volume, bool internal);
     Settings(Model* model, BoundaryPatch* patch, SettingsType type);
     Settings(Model* model, Interface* interface);
     ~Settings();
+
+    SettingsRecord serialise(const PhysicsSerialiser& serialiser) const;
+    static Settings* restore(const PhysicsSerialiser& serialiser, const SettingsRecord& record);
 
     Physics* physics() const { return m_physics; }
     void setModel(Model* model);

@@ -24,12 +24,18 @@ ThreadBundle* bundleOf(const Volume* volume, int index)
 } // namespace
 
 ThreadBundle::ThreadBundle(Settings* settings, int index, ThreadType type, int threadId,
-                           const std::vector<int>& domainIds)
+                           const std::vector<int>& domainIds, const std::vector<int>& zoneIds)
     : m_settings(settings),
       m_index(index),
       m_threadType(type),
       m_threadId(threadId),
-      m_domainIds(domainIds.begin(), domainIds.end())
+      m_domainIds(domainIds.begin(), domainIds.end()),
+      m_zoneIds(zoneIds.begin(), zoneIds.end())
+{}
+
+ThreadBundle::ThreadBundle(Settings* settings, int index, ThreadType type, int threadId,
+                           const std::vector<int>& domainIds)
+    : ThreadBundle(settings, index, type, threadId, domainIds, {})
 {
     physics()->registry().add(this);
 }

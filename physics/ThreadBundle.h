@@ -15,6 +15,7 @@ namespace physics {
 
 class Physics;
 class Settings;
+struct BundleRecord;
 
 /// One solver thread that a settings object asks for: its type, solver thread id, domains, mesh zones, and
 /// the host's handles for it. Made by `Settings::createThreadBundle`; owned by the settings object and
@@ -86,7 +87,13 @@ private:
     friend class Settings;
 
     ThreadBundle(Settings* settings, int index, ThreadType type, int threadId, const std::vector<int>& domainIds);
+    /// Makes a bundle that is not registered yet.
+    ThreadBundle(Settings* settings, int index, ThreadType type, int threadId, const std::vector<int>& domainIds,
+                 const std::vector<int>& zoneIds);
     ~ThreadBundle();
+
+    BundleRecord serialise() const;
+    static ThreadBundle* restore(Settings* settings, const BundleRecord& record);
 
     Physics* physics() const;
     std::vector<int> zoneIds(bool mayReport) const;

@@ -11,6 +11,9 @@
 
 namespace physics {
 
+class TextReader;
+class TextWriter;
+
 /// Which types may be used where. The tables are complete after construction and change afterwards only
 /// when a whole table set is read back from a saved text.
 ///
@@ -72,11 +75,16 @@ public:
     void dump(std::ostream& stream) const;
 
 private:
+    friend class TextReader;
+    friend class TextWriter;
+
     using BoundaryTypes = std::set<BoundaryType>;
 
     void initialise();
     void clear();
     void buildSecondaryMaps();
+    void serialise(TextWriter& writer) const;
+    void restore(TextReader& reader);
     BoundaryTypes boundaryTypesInUse() const;
     std::vector<BoundaryType> boundaryTypesThatAre(bool internal) const;
 

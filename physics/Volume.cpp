@@ -9,20 +9,18 @@
 
 #include "gtm/LocationModel.h"
 
-#include <algorithm>
 #include <set>
 
 namespace physics {
 
 int Volume::s_lastUsedId = 0;
 
+Volume::Volume(Physics* physics, int id, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)
+    : m_id(id), m_type(type), m_model(model), m_interior(interior), m_isDefault(isDefault), m_physics(physics)
+{}
+
 Volume::Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)
-    : m_id(nextId(s_lastUsedId)),
-      m_type(type),
-      m_model(model),
-      m_interior(interior),
-      m_isDefault(isDefault),
-      m_physics(physics)
+    : Volume(physics, nextId(s_lastUsedId), type, model, interior, isDefault)
 {
     model->add(this);
     physics->registry().add(this);
@@ -116,24 +114,20 @@ Boundary* Volume::constructBoundary(gtm::Boundary* boundary, BoundaryType type, 
 
 std::vector<Boundary*> Volume::boundaries() const { return m_boundariesByName.objects(); }
 
-std::vector<Boundary*> Volume::ownedBoundaries() const
-{
-    std::vector<Boundary*> owned = boundaries();
-    if (owned.size() == m_boundaries.size())
-        return owned;
-    const std::set<const Boundary*> listed(owned.begin(), owned.end());
-    for (Boundary* boundary : m_boundaries.byId())
-        if (listed.count(boundary) == 0)
-            owned.push_back(boundary);
-    return owned;
-}
+std::vector<Boundary*> Volume::ownedBoundaries() const { return listedFirst(boundaries(), m_boundaries.objects()); }
 
-void Volume::add(Boundary* boundary)
+/// Takes the boundary into the lists of the volume, and no further.
+void Volume::adopt(Boundary* boundary)
 {
     m_boundaries.insert(boundary);
     m_boundariesByName.put(boundary->name(), boundary);
     if (boundary->isDefaultBoundary())
         m_defaultBoundary = boundary;
+}
+
+void Volume::add(Boundary* boundary)
+{
+    adopt(boundary);
     if (m_model)
         m_model->addVolumeBoundary(boundary);
     m_physics->registry().add(boundary);

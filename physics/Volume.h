@@ -22,7 +22,9 @@ namespace physics {
 class Boundary;
 class Model;
 class Physics;
+class PhysicsSerialiser;
 class Settings;
+struct VolumeRecord;
 
 /// A piece of the domain with one physical type, on an interior of the location model.
 ///
@@ -144,15 +146,21 @@ private:
     friend class Model;
     friend class Peek;
     friend class Physics;
+    friend class PhysicsSerialiser;
     friend class Registry;
     friend class ThreadBundle;
 
     static int s_lastUsedId;
 
     Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
+    Volume(Physics* physics, int id, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
     ~Volume() = default;
 
+    VolumeRecord serialise(const PhysicsSerialiser& serialiser) const;
+    static Volume* restore(const PhysicsSerialiser& serialiser, const VolumeRecord& record);
+
     void add(Boundary* boundary);
+    void adopt(Boundary* boundary);
     void remove(Boundary* boundary);
     void setActivationGroup(int group) { m_activationGroup = group; }
 

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace physics {
+
+class TypeManager;
+
+/// Ids of objects with the ids of the objects that belong to them; a key of -1 stands for none.
+using PairList = std::vector<std::pair<int, int>>;
+
+/// Writes a saved text field by field. It offers the same fields as `TextReader`, so that one description
+/// of a record serves both; the labels are for the reader's complaints.
+class TextWriter {
+public:
+    static constexpr bool isReading = false;
+
+    void integer(std::string_view /*label*/, int value)
+    {
+        separate();
+        appendNumber(value);
+    }
+
+    template <class E>
+    void enumerator(std::string_view label, E value)
+    {
+        integer(label, static_cast<int>(value));
+    }
+
+    void boolean(std::string_view label, bool value) { integer(label, value ? 1 : 0); }
+
+    void count(std::string_view /*label*/, std::size_t value)
+    {
+        separate();
+        appendNumber(static_cast<std::int64_t>(value));
+    }
+
+    /// The rest of the line, as it stands.
+    void restOfLine(std::string_view /*label*/, std::string_view value)
+    {
+        separate();
+        m_text += value;
+    }
+
+    void endLine()
+    {
+        m_text += '\n';
+        m_isLineBegun = false;
+    }
+
+    /// Ascending, each once.
+    void idList(std::string_view label, const std::vector<int>& ids)
+    {
+        count(label, ids.size());
+        for (const int id : ids)
+            integer(label, id);
+        endLine();
+    }
+
+    void pairList(std::string_view label, const PairList& pairs)
+    {
+        count(label, 2 * pairs.size());
+        for (const auto& [key, value] : pairs) {
+            integer(label, key);
+            integer(label, value);
+        }
+        endLine();
+    }
+
+    template <class Record>
+    void records(const std::vector<Record>& records, std::size_t /*count*/)
+    {
+        for (const Record& record : records)
+            Record::describe(*this, record);
+    }
+
+    void typeTables(const TypeManager& types);
+
+    void begin(const std::size_t& /*position*/) {}
+
+    std::string take() { return std::move(m_text); }
+
+private:
+    void separate()
+    {
+        if (m_isLineBegun)
+            m_text += ' ';
+        m_isLineBegun = true;
+    }
+
+    void appendNumber(std::int64_t value);
+
+    std::string m_text;
+    bool m_isLineBegun = false;
+};
+
+} // namespace physics
