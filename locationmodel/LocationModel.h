@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gtm/Export.h"
 #include "gtm/Model.h"
 
 #include <memory>

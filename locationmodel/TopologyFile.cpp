@@ -162,7 +162,7 @@ private:
 
     std::string knownBody(const JsonNode& node) const
     {
-        const std::string id = node.string();
+        std::string id = node.string();
         if (m_bodies.count(id) == 0) {
             node.failUnknown("the id of a body in \"bodies\"", m_bodyIds);
         }

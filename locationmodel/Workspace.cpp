@@ -69,7 +69,8 @@ std::pair<Interior*, Interior::State> Workspace::createInterior(const std::strin
         return {nullptr, state};
     }
     const std::uint64_t serial = ++m_lastSerial;
-    auto& interior = m_interiors[serial] = std::make_unique<InteriorEntity>(*this, serial, name, wish);
+    auto made = std::make_unique<InteriorEntity>(*this, serial, name, wish);
+    const auto& interior = m_interiors[serial] = std::move(made);
     m_boundaries.insert(&interior->ownDefaultBoundary);
     interior->placement = std::move(placement);
     enterBodies(*interior);
@@ -217,7 +218,8 @@ std::pair<Boundary*, Boundary::State> Workspace::createBoundary(InteriorEntity& 
         return {nullptr, state};
     }
     const std::uint64_t serial = ++m_lastSerial;
-    auto& boundary = interior.boundaries[serial] = std::make_unique<BoundaryEntity>(interior, serial, name, wish);
+    auto made = std::make_unique<BoundaryEntity>(interior, serial, name, wish);
+    const auto& boundary = interior.boundaries[serial] = std::move(made);
     m_boundaries.insert(boundary.get());
     boundary->placement = std::move(placement);
     enterClaims(*boundary);
@@ -326,7 +328,8 @@ std::pair<Interface*, Interface::State> Workspace::createInterface(const std::st
         return {nullptr, state};
     }
     const std::uint64_t serial = ++m_lastSerial;
-    auto& interface = m_interfaces[serial] = std::make_unique<InterfaceEntity>(*this, serial, name);
+    auto made = std::make_unique<InterfaceEntity>(*this, serial, name);
+    const auto& interface = m_interfaces[serial] = std::move(made);
     setSides(*interface, sides);
     return {interface.get(), state};
 }
