@@ -148,7 +148,7 @@ std::string shown(const std::set<gtm::Boundary*>& boundaries)
 {
     std::set<std::string> names;
     for (const gtm::Boundary* boundary : boundaries) {
-        names.insert(boundary ? shown(boundary->name()) : "null");
+        names.insert(boundary ? shown(scriptedOf(boundary)->m_name) : "null"); // no question, which might throw
     }
     std::string list;
     for (const std::string& name : names) {
