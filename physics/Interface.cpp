@@ -10,6 +10,7 @@
 #include "gtm/LocationModel.h"
 
 #include <unordered_set>
+#include <utility>
 
 namespace physics {
 
@@ -127,7 +128,8 @@ Connectivity Interface::connectivity() const
     if (hasEnded())
         return Connectivity::None;
     const std::vector<gtm::FaceUse*> firstSide = m_boundaries[0]->faceUses();
-    const std::unordered_set<const gtm::FaceUse*> first(firstSide.begin(), firstSide.end());
+    std::unordered_set<const gtm::FaceUse*> first(firstSide.begin(), firstSide.end());
+    first.erase(nullptr);
     std::size_t matched = 0;
     std::size_t unmatched = 0;
     for (const gtm::FaceUse* faceUse : m_boundaries[1]->faceUses()) {
@@ -197,12 +199,12 @@ void Interface::destroy()
         m_model->remove(this);
     m_physics->registry().remove(this);
     leaveBoundaries();
-    m_interface->destroy();
-    m_interface = nullptr;
+    gtm::Interface* interface = std::exchange(m_interface, nullptr);
     m_boundaries = {nullptr, nullptr};
     m_model = nullptr;
     endReferences();
     m_physics->registry().keepEnded(this);
+    interface->destroy(); // last: whatever it throws, this object has ended and points at nothing
 }
 
 } // namespace physics
