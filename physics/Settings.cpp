@@ -22,9 +22,9 @@ Settings::Settings(int id, Model* model, SettingsType type, TopologyType topolog
       m_physics(model->physics()),
       m_model(model),
       m_type(type),
-      m_volume(volume),
+      m_volume(this, volume),
       m_boundaryPatch(patch),
-      m_interface(interface),
+      m_interface(this, interface),
       m_topologyType(topologyType)
 {
     if (patch != nullptr)
@@ -59,6 +59,12 @@ Settings::~Settings()
     m_bundles.clear();
     for (const ThreadBundle* bundle : m_replacedBundles)
         delete bundle;
+}
+
+void Settings::subjectEnded()
+{
+    if (!m_model && m_topologyType != TopologyType::Internal)
+        delete this;
 }
 
 Model* Settings::model() const { return m_model.get(); }

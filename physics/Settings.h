@@ -26,10 +26,10 @@ struct SettingsRecord;
 /// The solver-facing set-up of a volume, of the internal faces of a volume, of one kind of a boundary
 /// patch, or of an interface: the solver threads that realise it.
 ///
-/// Made by the models at the first request; ended with the object that it belongs to. The internal
-/// settings of a volume stay after it, detached, and so do the settings of a destroyed model: all that
-/// they pointed at is null, they are inactive, and they are found by id and thread until
-/// `Physics::clear`. It owns its thread bundles.
+/// Made by the models at the first request; ended with the object that it belongs to, also when its
+/// model was destroyed before. Only the internal settings of a volume, and those of a patch that are of
+/// no known kind, stay behind: then all that they pointed at is null, they are inactive, and they are
+/// found by id and thread until `Physics::clear`. It owns its thread bundles.
 class PHYSICS_EXPORT Settings final : public Referable {
 public:
     int id() const { return m_id; }
@@ -126,13 +126,31 @@ private:
     bool isListed(const ThreadBundle* bundle) const;
     void threadIdChanges(const ThreadBundle* bundle, int threadId);
 
+    /// What the settings were made for. A model ends them with a member that leaves it; without a model
+    /// they end here. A patch ends its own.
+    template <class T>
+    class Subject final : private Reference {
+    public:
+        Subject(Settings* settings, T* object) : m_settings(settings) { refer(object); }
+
+        T* get() const { return static_cast<T*>(target()); }
+        T* operator->() const { return get(); }
+        explicit operator bool() const { return target() != nullptr; }
+
+    private:
+        void targetEnded() override { m_settings->subjectEnded(); }
+
+        Settings* const m_settings;
+    };
+    void subjectEnded();
+
     const int m_id;
     Physics* const m_physics;
     Link<Model> m_model;
     const SettingsType m_type;
-    Link<Volume> m_volume;
+    Subject<Volume> m_volume;
     Link<BoundaryPatch> m_boundaryPatch;
-    Link<Interface> m_interface;
+    Subject<Interface> m_interface;
     const TopologyType m_topologyType;
     std::map<int, ThreadBundle*> m_bundles;          // owned
     std::vector<ThreadBundle*> m_replacedBundles;    // owned

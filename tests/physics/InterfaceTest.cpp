@@ -91,7 +91,8 @@ TEST_F(InterfaceTest, thatTheLocationModelRefusesIsNull)
     refuse();
     EXPECT_EQ(join(inlet, outlet, "refused"), nullptr);
     refuse();
-    EXPECT_EQ(physics.createTranslationallyPeriodicInterface("refused", inlet, outlet, {}, InterfaceType::Wall), nullptr);
+    EXPECT_EQ(physics.createTranslationallyPeriodicInterface("refused", inlet, outlet, {}, InterfaceType::Wall),
+              nullptr);
     refuse();
     EXPECT_EQ(physics.createRotationallyPeriodicInterface("refused", inlet, outlet, 1, {}, {}, InterfaceType::Wall),
               nullptr);
