@@ -10,7 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 // Things end in every order, and whoever is left knows only what is alive.
 
@@ -161,6 +165,194 @@ TEST(Lifetime, replacedThreadBundleLivesUntilItsSettingsEnd)
     set.first->destroy();
     EXPECT_EQ(set.physics->findThreadBundleByThreadId(7), nullptr);
     EXPECT_EQ(set.physics->findThreadBundleByZoneId(1), nullptr);
+}
+
+// ---- Whatever the location model fails in, nothing is left half made
+
+TEST(Lifetime, volumeThatCouldNotBeMadeLeavesNothing)
+{
+    TwoVolumes set;
+    const int nextId = set.second->id() + 1;
+    for (const char* operation : {"createInterior", "name"}) {
+        set.world.throwOn(operation);
+
+        EXPECT_THROW(set.physics->createVolume("third", std::string("left"), VolumeType::Fluid), std::runtime_error);
+
+        EXPECT_EQ(set.physics->volumes(), (std::vector<Volume*>{set.first, set.second})) << operation;
+        EXPECT_EQ(set.model->volumes(), (std::vector<Volume*>{set.first, set.second})) << operation;
+        EXPECT_EQ(set.physics->findVolumeById(nextId), nullptr) << operation;
+        EXPECT_EQ(set.world.interior("third"), nullptr) << operation;
+    }
+}
+
+TEST(Lifetime, defaultVolumeThatCouldNotBeMadeLeavesTheDefaultInteriorOff)
+{
+    TwoVolumes set;
+    for (const char* operation : {"activateDefaultInterior", "rename", "name"}) {
+        set.world.throwOn(operation);
+
+        EXPECT_THROW(set.physics->createDefaultVolume("rest", VolumeType::Fluid), std::runtime_error);
+
+        EXPECT_EQ(set.physics->defaultVolume(), nullptr) << operation;
+        EXPECT_FALSE(set.physics->virtualTopology().isDefaultInteriorActive()) << operation;
+        EXPECT_EQ(set.model->volumes().size(), 2u) << operation;
+    }
+}
+
+TEST(Lifetime, secondDefaultVolumeThatCouldNotBeMadeLeavesTheFirst)
+{
+    TwoVolumes set;
+    Volume* rest = set.physics->createDefaultVolume("rest", VolumeType::Fluid);
+    set.world.throwOn("name");
+
+    EXPECT_THROW(set.physics->createDefaultVolume("other", VolumeType::Fluid), std::runtime_error);
+
+    EXPECT_EQ(set.physics->defaultVolume(), rest);
+    EXPECT_TRUE(set.physics->virtualTopology().isDefaultInteriorActive());
+}
+
+TEST(Lifetime, boundaryThatCouldNotBeMadeLeavesNothing)
+{
+    TwoVolumes set;
+    const std::size_t noOfSettings = set.model->settings().size();
+    for (const char* operation : {"createBoundary", "name"}) {
+        set.world.throwOn(operation);
+
+        EXPECT_THROW(set.first->createBoundary("half", std::string("shared@left")), std::runtime_error);
+
+        EXPECT_EQ(set.first->boundaries(), std::vector<Boundary*>{set.hot}) << operation;
+        EXPECT_EQ(set.model->settings().size(), noOfSettings) << operation;
+        EXPECT_EQ(set.physics->findBoundaryById(set.cold->id() + 1), nullptr) << operation;
+        EXPECT_EQ(set.world.boundary("half"), nullptr) << operation;
+    }
+}
+
+TEST(Lifetime, defaultBoundaryThatCouldNotBeMadeIsSwitchedOff)
+{
+    TwoVolumes set;
+    for (const char* operation : {"activateDefaultBoundary", "rename", "name"}) {
+        set.world.throwOn(operation);
+
+        EXPECT_THROW(set.first->createDefaultBoundary("rest"), std::runtime_error);
+
+        EXPECT_EQ(set.first->defaultBoundary(), nullptr) << operation;
+        EXPECT_FALSE(set.first->interior()->isDefaultBoundaryActive()) << operation;
+        EXPECT_EQ(set.first->boundaries(), std::vector<Boundary*>{set.hot}) << operation;
+    }
+}
+
+TEST(Lifetime, endThatTheLocationModelBrokeOffIsFinishedByTheNext)
+{
+    TwoVolumes set;
+    const int volumeId = set.first->id();
+    const int boundaryId = set.hot->id();
+    for (int time = 1; time <= 3; ++time) { // for the interface, for the boundary, for the interior
+        set.world.throwOn("destroy");
+        EXPECT_THROW(set.first->destroy(), std::runtime_error);
+    }
+
+    set.first->destroy();
+
+    EXPECT_EQ(set.physics->findVolumeById(volumeId), nullptr);
+    EXPECT_EQ(set.physics->findBoundaryById(boundaryId), nullptr);
+    EXPECT_EQ(set.world.interior("first"), nullptr);
+    EXPECT_EQ(set.cold->noOfInterfaces(), 0);
+}
+
+// ---- Groups, defaults, names, two set-ups at once
+
+TEST(Lifetime, groupWhoseVolumesEndStaysAndKeepsItsNumber)
+{
+    TwoVolumes set;
+    EXPECT_EQ(set.physics->deactivateVolumes({set.first, set.second, set.first}), 1);
+
+    set.first->destroy();
+
+    EXPECT_EQ(set.physics->activationGroupVolumes(1), std::vector<Volume*>{set.second});
+    set.second->destroy();
+    EXPECT_EQ(set.physics->activationGroupVolumes(1), std::vector<Volume*>{});
+    EXPECT_EQ(set.physics->activationGroups(), std::vector<int>{1});
+    EXPECT_EQ(set.physics->deactivateVolumes({}), 2);
+    EXPECT_TRUE(set.physics->activateGroup(1));
+    EXPECT_EQ(set.physics->deactivateVolumes({}), 1);
+}
+
+TEST(Lifetime, defaultVolumeKeepsItsInteriorWhenAnOlderOneEnds)
+{
+    TwoVolumes set;
+    Volume* older = set.physics->createDefaultVolume("older", VolumeType::Fluid);
+    Volume* newer = set.physics->createDefaultVolume("newer", VolumeType::Fluid);
+    const int newerId = newer->id();
+
+    older->destroy();
+
+    EXPECT_EQ(set.physics->defaultVolume(), newer);
+    EXPECT_TRUE(set.physics->virtualTopology().isDefaultInteriorActive());
+    newer->destroy();
+    EXPECT_FALSE(set.physics->hasDefaultVolume());
+    EXPECT_FALSE(set.physics->virtualTopology().isDefaultInteriorActive());
+    EXPECT_EQ(set.physics->findVolumeById(newerId), nullptr);
+}
+
+TEST(Lifetime, olderOfTwoDefaultVolumesThatIsLeftEndsWithTheSetUp)
+{
+    TwoVolumes set;
+    Volume* older = set.physics->createDefaultVolume("older", VolumeType::Fluid);
+    Volume* newer = set.physics->createDefaultVolume("newer", VolumeType::Fluid);
+    const int olderId = older->id();
+
+    newer->destroy();
+
+    EXPECT_EQ(set.physics->defaultVolume(), nullptr);
+    EXPECT_EQ(set.physics->findVolumeById(olderId), older);
+    set.physics->clear();
+    EXPECT_EQ(set.physics->findVolumeById(olderId), nullptr);
+}
+
+TEST(Lifetime, secondDefaultBoundaryEndsTheFirstWithItsInterfaces)
+{
+    TwoVolumes set;
+    Boundary* rest = set.first->createDefaultBoundary("rest");
+    const int restId = rest->id();
+    Interface* joined = set.physics->createInterface("joined", rest, set.cold, InterfaceType::Wall);
+
+    Boundary* again = set.first->createDefaultBoundary("rest");
+
+    EXPECT_EQ(set.physics->findBoundaryById(restId), nullptr);
+    EXPECT_EQ(again->id(), restId + 1);
+    EXPECT_EQ(set.first->defaultBoundary(), again);
+    EXPECT_EQ(joined->boundary(Side::First), nullptr);
+    EXPECT_TRUE(set.first->interior()->isDefaultBoundaryActive());
+}
+
+TEST(Lifetime, nameThatARenamedVolumeLeftIsFreeForAnother)
+{
+    TwoVolumes set;
+    set.first->rename("renamed");
+
+    Volume* third = set.physics->createVolume("first", std::string("left"), VolumeType::Fluid);
+
+    EXPECT_EQ(set.physics->volumes(), (std::vector<Volume*>{third, set.second}));
+    set.first->destroy();
+    EXPECT_EQ(set.physics->volumes(), (std::vector<Volume*>{third, set.second}));
+    third->destroy();
+    EXPECT_EQ(set.physics->volumes(), std::vector<Volume*>{set.second});
+}
+
+TEST(Lifetime, twoSetUpsEndApart)
+{
+    TwoVolumes left;
+    auto right = std::make_unique<TwoVolumes>();
+    EXPECT_FALSE(left.first->setModel(right->model));
+    EXPECT_EQ(left.physics->deactivateVolumes({right->first}), -1);
+    EXPECT_EQ(left.physics->createInterface("mixed", left.hot, right->cold, InterfaceType::Wall), nullptr);
+    left.hot->setShellModel(right->model);
+    EXPECT_EQ(left.hot->shellModel(), nullptr);
+
+    right.reset();
+
+    EXPECT_EQ(left.physics->volumes(), (std::vector<Volume*>{left.first, left.second}));
+    EXPECT_EQ(left.interface->boundary(Side::First), left.hot);
 }
 
 } // namespace
