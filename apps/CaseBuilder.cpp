@@ -124,7 +124,8 @@ void Builder::refuse(std::string path, std::string sentence)
 
 void Builder::refuseByLocationModel(const std::string& path, const std::string& what)
 {
-    refuse(path, what + " is refused: " + m_model.lastRefusal());
+    const State state = static_cast<State>(m_model.lastRefusedState());
+    refuse(path, what + " is refused (" + displayName(state) + "): " + m_model.lastRefusal());
 }
 
 template <class R>

@@ -62,6 +62,8 @@ Part* LocationModel::part(const Body* body) const { return static_cast<const Mod
 
 std::string LocationModel::lastRefusal() const { return m_topology->lastRefusal().text(); }
 
+std::int32_t LocationModel::lastRefusedState() const { return m_topology->lastRefusal().refusedState(); }
+
 } // namespace gtm::bundled
 
 namespace gtm {

@@ -3,6 +3,7 @@
 #include "gtm/Export.h"
 #include "gtm/Model.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -40,6 +41,10 @@ public:
     /// refused: whole sentences for people. Empty when it was not refused. For what exists there is
     /// `explain` (locationmodel/Explain.h).
     std::string lastRefusal() const;
+
+    /// The state that it would have had, by its number, which is the same in the three enumerations of
+    /// states; 0 when it was not refused.
+    std::int32_t lastRefusedState() const;
 
 private:
     friend class gtm::Model;

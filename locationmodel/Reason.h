@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <utility>
 
@@ -22,11 +23,16 @@ public:
     /// The sentence; empty when there is no reason.
     std::string text() const;
 
+    /// The number of the state for which something was refused; 0 when nothing was.
+    std::int32_t refusedState() const { return m_refusedState; }
+    void setRefusedState(std::int32_t state) { m_refusedState = state; }
+
 private:
     std::string m_sentence;
     std::string m_unknown;
     const ModelTopology* m_topology = nullptr; ///< null when there is no unknown name
     bool m_isOfSurface = false;
+    std::int32_t m_refusedState = 0;
 };
 
 } // namespace gtm::bundled

@@ -4,11 +4,20 @@
 #include "locationmodel/Removal.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
 namespace gtm::bundled {
 namespace {
+
+/// Notes for which state something is refused, and hands the state back.
+template <class State>
+State refused(Reason& refusal, State state)
+{
+    refusal.setRefusedState(static_cast<std::int32_t>(state));
+    return state;
+}
 
 bool isCreatedBefore(const InteriorEntity* a, const InteriorEntity* b) { return a->serial < b->serial; }
 
@@ -66,7 +75,7 @@ std::pair<Interior*, Interior::State> Workspace::createInterior(const std::strin
     Reason& refusal = m_topology.lastRefusal() = Reason();
     const Interior::State state = judge(placement, nullptr, *this, enforce ? &refusal : nullptr);
     if (enforce && state != Interior::State::Valid) {
-        return {nullptr, state};
+        return {nullptr, refused(refusal, state)};
     }
     const std::uint64_t serial = ++m_lastSerial;
     auto made = std::make_unique<InteriorEntity>(*this, serial, name, wish);
@@ -82,13 +91,14 @@ Interior::State Workspace::relocate(InteriorEntity& interior, const Wish& wish, 
     Reason& refusal = m_topology.lastRefusal() = Reason();
     if (interior.isDefault()) {
         refusal = Reason("The default interior has no location of its own; it takes what the others leave.");
-        return Interior::State::Inconsistent;
+        return refused(refusal, Interior::State::Inconsistent);
     }
     BodyPlacement placement = placeBodies(wish.terms(m_topology), m_topology);
     const Interior::State state = judge(placement, &interior, *this, enforce ? &refusal : nullptr);
-    if (!enforce || state == Interior::State::Valid) {
-        move(interior, wish, std::move(placement));
+    if (enforce && state != Interior::State::Valid) {
+        return refused(refusal, state);
     }
+    move(interior, wish, std::move(placement));
     return state;
 }
 
@@ -215,7 +225,7 @@ std::pair<Boundary*, Boundary::State> Workspace::createBoundary(InteriorEntity& 
     Reason& refusal = m_topology.lastRefusal() = Reason();
     const Boundary::State state = judge(placement, nullptr, interior, enforce ? &refusal : nullptr);
     if (enforce && state != Boundary::State::Valid) {
-        return {nullptr, state};
+        return {nullptr, refused(refusal, state)};
     }
     const std::uint64_t serial = ++m_lastSerial;
     auto made = std::make_unique<BoundaryEntity>(interior, serial, name, wish);
@@ -231,14 +241,15 @@ Boundary::State Workspace::relocate(BoundaryEntity& boundary, const Wish& wish, 
     Reason& refusal = m_topology.lastRefusal() = Reason();
     if (boundary.isDefault()) {
         refusal = Reason("The default boundary has no location of its own; it takes what the others leave.");
-        return Boundary::State::Inconsistent;
+        return refused(refusal, Boundary::State::Inconsistent);
     }
     const InteriorEntity& interior = boundary.interior;
     SurfacePlacement placement = placeSurface(wish.terms(m_topology), m_topology, interior.scope());
     const Boundary::State state = judge(placement, &boundary, interior, enforce ? &refusal : nullptr);
-    if (!enforce || state == Boundary::State::Valid) {
-        move(boundary, wish, std::move(placement));
+    if (enforce && state != Boundary::State::Valid) {
+        return refused(refusal, state);
     }
+    move(boundary, wish, std::move(placement));
     return state;
 }
 
@@ -348,9 +359,10 @@ Interface::State Workspace::judgeSides(const Interface::Sides& sides, bool enfor
     Reason& refusal = m_topology.lastRefusal() = Reason();
     if (!areAllAlive(sides)) {
         refusal = Reason("A side of the interface has a boundary that is not of this working copy.");
-        return Interface::State::InconsistentBoundaries;
+        return refused(refusal, Interface::State::InconsistentBoundaries);
     }
-    return judge(sides, enforce ? &refusal : nullptr);
+    const Interface::State state = judge(sides, enforce ? &refusal : nullptr);
+    return enforce && state != Interface::State::Valid ? refused(refusal, state) : state;
 }
 
 bool Workspace::areAllAlive(const Interface::Sides& sides) const

@@ -313,6 +313,24 @@ TEST_F(Explain, theLastRefusalIsKeptUntilTheNextAttempt)
               "away and at masked bodies.");
 }
 
+TEST_F(Explain, theStateOfTheLastRefusalIsKeptWithIt)
+{
+    EXPECT_EQ(model->lastRefusedState(), 0);
+
+    EXPECT_EQ(copy.createInterior("w", "colt", false, true).first, nullptr);
+    EXPECT_EQ(model->lastRefusedState(), 2);
+
+    Interior& water = interior("w", "cold");
+    EXPECT_EQ(model->lastRefusedState(), 0);
+
+    EXPECT_EQ(water.createBoundary("b", "inlet", true).first, nullptr);
+    EXPECT_EQ(model->lastRefusedState(), 11);
+    EXPECT_EQ(water.relocate("inlet", true), Interior::State::Inconsistent);
+    EXPECT_EQ(model->lastRefusedState(), 11);
+    EXPECT_EQ(water.relocate("colt", false), Interior::State::Unresolvable);
+    EXPECT_EQ(model->lastRefusedState(), 0);
+}
+
 TEST_F(Explain, aDefaultEntityCannotBeMoved)
 {
     copy.activateDefaultInterior(true);
