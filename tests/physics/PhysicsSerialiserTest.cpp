@@ -10,7 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -326,6 +329,159 @@ TEST(PhysicsSerialiser, countsThatTheTextCannotHoldAreRefusedAtOnce)
     EXPECT_EQ(physics.checkSerialised("0\n3\n2000000000 0\n"),
               std::vector<std::string>{"3: expected the number of interiors (a count that the rest of the text can "
                                        "hold), found \"2000000000\""});
+}
+
+// ---- The example of docs/saved-text.md
+
+/// The text beside its explanations.
+std::string documentedText()
+{
+    std::ifstream page(std::filesystem::path(PHYSICS_SOURCE_DIR) / "docs/saved-text.md");
+    std::string line;
+    while (std::getline(page, line) && line != "<!-- saved-text -->") {
+    }
+    std::getline(page, line); // the fence
+    std::string text;
+    while (std::getline(page, line) && line != "```")
+        text += line.substr(0, line.find_last_not_of(' ', line.find('|') - 1) + 1) + "\n";
+    return text;
+}
+
+TEST(PhysicsSerialiser, documentedExampleIsWhatIsWritten)
+{
+    scripted::World world;
+    world.face("f1", world.body("b1"));
+    Physics physics(world.model(), true);
+    ASSERT_TRUE(physics.restore(emptyText(0)));
+    Volume* plate = physics.createVolume("plate", std::string("b1"), VolumeType::Solid);
+    plate->createBoundary("skin", std::vector<gtm::Region*>{world.model()->topology()->findRegionById("f1@b1")},
+                          BoundaryType::Wall);
+    plate->settings()->createThreadBundle(0, ThreadType::Solid, 7, {1})->setZoneIds({3, 4});
+
+    EXPECT_EQ(physics.serialise(), documentedText());
+}
+
+// ---- Damaged texts: either refused with reasons and nothing lost, or what came back is sound
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+std::string joined(const std::vector<std::string>& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+        text += line + "\n";
+    return text;
+}
+
+/// Tries damaged texts on one full set-up, which is as it was before each.
+class Trial {
+public:
+    const std::string& text() const { return m_text; }
+
+    /// Whether the text was accepted.
+    bool accepts(const std::string& damaged)
+    {
+        const std::vector<std::string> complaints = m_set.physics->checkSerialised(damaged);
+        const bool isAccepted = m_set.physics->restore(damaged);
+        EXPECT_EQ(isAccepted, complaints.empty()) << damaged;
+        if (isAccepted)
+            expectSound(damaged);
+        else
+            expectRefused(damaged, complaints);
+        return isAccepted;
+    }
+
+private:
+    void expectSound(const std::string& damaged)
+    {
+        const std::string again = m_set.physics->serialise();
+        EXPECT_TRUE(m_set.physics->restore(again)) << damaged;
+        EXPECT_EQ(m_set.physics->serialise(), again) << damaged;
+        // Anew, since default boundary types that a text does not name stay.
+        m_set.physics = std::make_unique<Physics>(m_set.world.model(), true);
+        ASSERT_TRUE(m_set.physics->restore(m_text));
+    }
+
+    void expectRefused(const std::string& damaged, const std::vector<std::string>& complaints)
+    {
+        EXPECT_EQ(m_set.physics->serialise(), m_text) << damaged;
+        for (const std::string& complaint : complaints) {
+            const int line = std::stoi(complaint);
+            EXPECT_GE(line, 1) << complaint;
+            EXPECT_LE(line, static_cast<int>(linesOf(damaged).size()) + 1) << complaint;
+            EXPECT_EQ(complaint.find('\n'), std::string::npos) << complaint;
+        }
+    }
+
+    FullSetUp m_set;
+    const std::string m_text = m_set.physics->serialise();
+};
+
+TEST(PhysicsSerialiser, everyDroppedLineIsRefusedOrSound)
+{
+    Trial trial;
+    const std::vector<std::string> lines = linesOf(trial.text());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        std::vector<std::string> damaged = lines;
+        damaged.erase(damaged.begin() + static_cast<std::ptrdiff_t>(i));
+        trial.accepts(joined(damaged));
+    }
+}
+
+TEST(PhysicsSerialiser, everyDoubledLineIsRefusedOrSound)
+{
+    Trial trial;
+    const std::vector<std::string> lines = linesOf(trial.text());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        std::vector<std::string> damaged = lines;
+        damaged.insert(damaged.begin() + static_cast<std::ptrdiff_t>(i), lines[i]);
+        trial.accepts(joined(damaged));
+    }
+}
+
+TEST(PhysicsSerialiser, everyReplacedFieldIsRefusedOrSound)
+{
+    Trial trial;
+    const std::string& text = trial.text();
+    int refusals = 0;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = text.find_first_of(" \n", start);
+        for (const char* replacement : {"-1", "0", "1", "2", "2147483647", "99999999999", "word"}) {
+            std::string damaged = text;
+            damaged.replace(start, end - start, replacement);
+            refusals += trial.accepts(damaged) ? 0 : 1;
+        }
+        start = end + 1;
+    }
+    EXPECT_GT(refusals, 100);
+}
+
+TEST(PhysicsSerialiser, everyByteReplacedByZeroIsRefusedOrSound)
+{
+    Trial trial;
+    const std::string& text = trial.text();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        std::string damaged = text;
+        damaged[i] = '\0';
+        trial.accepts(damaged);
+    }
+}
+
+TEST(PhysicsSerialiser, lineEndsOfAnotherSystemAreRefusedOrSound)
+{
+    Trial trial;
+    std::string damaged;
+    for (const char c : trial.text())
+        damaged += c == '\n' ? std::string("\r\n") : std::string(1, c);
+
+    trial.accepts(damaged);
 }
 
 } // namespace
