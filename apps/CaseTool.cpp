@@ -3,6 +3,7 @@
 #include "apps/InputError.h"
 #include "apps/Output.h"
 #include "apps/verbs/BuildVerb.h"
+#include "apps/verbs/CheckVerb.h"
 #include "apps/verbs/TopologyVerb.h"
 #include "support/InQuotes.h"
 #include "support/NearestName.h"
@@ -74,6 +75,7 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
     std::vector<std::unique_ptr<Verb>> verbs;
     verbs.push_back(std::make_unique<TopologyVerb>());
     verbs.push_back(std::make_unique<BuildVerb>());
+    verbs.push_back(std::make_unique<CheckVerb>());
     return verbs;
 }
 

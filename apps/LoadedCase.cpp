@@ -7,7 +7,6 @@
 #include "apps/Output.h"
 #include "locationmodel/LocationModel.h"
 #include "physics/Physics.h"
-#include "support/JsonSource.h"
 
 namespace physics::apps {
 namespace {
@@ -68,18 +67,19 @@ GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, cons
 
 } // namespace
 
-LoadedCase::LoadedCase(const std::filesystem::path& file, Output& output)
+LoadedCase::LoadedCase(const std::filesystem::path& file, Output& output, Restrictions restrictions)
+    : m_source(parse(file)), m_caseFile(readChecked(m_source)), m_geometry(readGeometryOf(m_caseFile, m_source, file))
 {
-    const JsonSource source = parse(file);
-    m_caseFile = readChecked(source);
-    m_geometry = readGeometryOf(m_caseFile, source, file);
     for (const std::string& note : m_geometry.notes) {
         output.note(note);
     }
+    if (restrictions == Restrictions::Off) {
+        m_caseFile.enforceRestrictions = false;
+    }
     m_built = buildCase(m_caseFile, *m_geometry.model);
     Complaints complaints;
-    add(m_built.refusals, source, complaints);
-    m_refusals = linesOf(complaints, source);
+    add(m_built.refusals, m_source, complaints);
+    m_refusals = linesOf(complaints, m_source);
 }
 
 } // namespace physics::apps

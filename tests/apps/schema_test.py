@@ -39,6 +39,9 @@ class SchemaTest(unittest.TestCase):
     def test_good_cases_are_valid(self):
         self.check(filter(is_case, (CASES / "good-cases").glob("*.json")), True, 2)
 
+    def test_broken_cases_have_the_right_shape(self):
+        self.check(filter(is_case, (CASES / "broken-cases").glob("*.json")), True, 40)
+
     def test_cases_with_wrong_references_have_the_right_shape(self):
         self.check((CASES / "bad-cases/meaning").glob("*.json"), True, 20)
 

@@ -1,0 +1,210 @@
+#include "apps/check/RuleFindings.h"
+
+#include "apps/Joined.h"
+#include "apps/check/Naming.h"
+#include "gtm/Face.h"
+#include "gtm/FaceUse.h"
+#include "gtm/Model.h"
+#include "gtm/TopologyMap.h"
+#include "physics/Boundary.h"
+#include "physics/Interface.h"
+#include "physics/Physics.h"
+#include "physics/TypeNames.h"
+#include "physics/Volume.h"
+
+#include <cstdint>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace physics::apps {
+namespace {
+
+using Details = std::map<std::string, std::vector<std::string>>;
+
+template <class Type>
+std::vector<std::string> namesOf(const std::vector<Type>& types)
+{
+    std::vector<std::string> names;
+    for (const Type type : types) {
+        names.push_back(displayName(type));
+    }
+    return names;
+}
+
+/// "...; allowed are A, B."
+std::string allowedTypes(const std::vector<std::string>& names)
+{
+    return names.empty() ? "; no type is allowed." : "; allowed are " + joined(names) + ".";
+}
+
+class Finder {
+public:
+    explicit Finder(const Physics& physics) : m_physics(physics) {}
+
+    std::vector<Finding> find();
+
+private:
+    void findUnsharedMesh(const Volume& volume);
+    void findTypeAgainstVolume(const Boundary& boundary);
+    void findInternalTypeOutside(const Boundary& boundary);
+    void findUnmatchedTag(const Boundary& boundary);
+    void findTypeAgainst(const Interface& interface, Side side);
+
+    template <class R>
+    void add(FindingKind kind, const R& region, const std::string& rest, Details details = {});
+
+    std::set<std::int64_t> zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const;
+    const std::unordered_set<const gtm::Face*>& internalFaces(const Volume& volume);
+
+    const Physics& m_physics;
+    std::vector<Finding> m_findings;
+    std::unordered_map<const Volume*, std::unordered_set<const gtm::Face*>> m_internalFaces;
+};
+
+std::vector<Finding> Finder::find()
+{
+    for (const Volume* volume : m_physics.volumes()) {
+        findUnsharedMesh(*volume);
+    }
+    for (const Boundary* boundary : m_physics.boundaries()) {
+        findTypeAgainstVolume(*boundary);
+        findInternalTypeOutside(*boundary);
+        findUnmatchedTag(*boundary);
+    }
+    for (const Interface* interface : m_physics.interfaces()) {
+        findTypeAgainst(*interface, Side::First);
+        findTypeAgainst(*interface, Side::Second);
+    }
+    return std::move(m_findings);
+}
+
+template <class R>
+void Finder::add(FindingKind kind, const R& region, const std::string& rest, Details details)
+{
+    const Finding::Subject subject = subjectOf(region);
+    m_findings.push_back({kind, subject, &region, theSubject(subject) + " " + rest, std::move(details)});
+}
+
+/// The mesh zones on a side of a face, negative where their faces look away from the first side.
+std::set<std::int64_t> Finder::zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const
+{
+    std::set<std::int64_t> zones;
+    const gtm::TopologyMap* map = m_physics.locationModel()->solverZoneMap();
+    if (map != nullptr && faceUse != nullptr) {
+        for (const gtm::ExternalFaceSide& side : map->externalFaceSides(faceUse)) {
+            const std::int64_t zone = side.zoneId;
+            zones.insert((side.sideWord != 0) == isSecondSide ? zone : -zone);
+        }
+    }
+    return zones;
+}
+
+void Finder::findUnsharedMesh(const Volume& volume)
+{
+    std::vector<const gtm::Face*> faces;
+    for (const gtm::Face* face : volume.unusedInternalFaces()) {
+        if (zonesOf(face->firstFaceUse(), false) != zonesOf(face->secondFaceUse(), true)) {
+            faces.push_back(face);
+        }
+    }
+    if (!faces.empty()) {
+        const std::vector<std::string> ids = idsOf(faces);
+        add(FindingKind::UnsharedMesh, volume,
+            "has internal faces whose two sides do not share one mesh: " + listed(ids) + ".", {{"faces", ids}});
+    }
+}
+
+void Finder::findTypeAgainstVolume(const Boundary& boundary)
+{
+    const Volume& volume = *boundary.volume();
+    if (volume.isAllowedBoundaryType(boundary.type())) {
+        return;
+    }
+    const std::vector<std::string> allowed = namesOf(volume.allowedBoundaryTypes());
+    const std::string volumeType = displayName(volume.type());
+    const std::string type = displayName(boundary.type());
+    add(FindingKind::TypeAgainstVolume, boundary,
+        "is of type " + type + ", which a volume of type " + volumeType + " does not allow" + allowedTypes(allowed),
+        {{"type", {type}}, {"volumeType", {volumeType}}, {"allowed", allowed}});
+}
+
+void Finder::findTypeAgainst(const Interface& interface, Side side)
+{
+    const Boundary* boundary = interface.boundary(side);
+    if (boundary == nullptr || interface.isAllowedBoundaryType(boundary->volumeType(), boundary->type())) {
+        return;
+    }
+    const std::vector<std::string> allowed = namesOf(interface.allowedBoundaryTypes(boundary->volumeType()));
+    const std::string interfaceType = displayName(interface.type());
+    const std::string volumeType = displayName(boundary->volumeType());
+    const std::string type = displayName(boundary->type());
+    const std::string name = boundary->fullName();
+    const std::string sideName = side == Side::First ? "first" : "second";
+    add(FindingKind::TypeAgainstInterface, interface,
+        "of type " + interfaceType + " does not allow the type " + type + " of the boundary " + listed({name}) +
+            " on its " + sideName + " side, next to a volume of type " + volumeType + allowedTypes(allowed),
+        {{"boundary", {name}},
+         {"side", {sideName}},
+         {"type", {type}},
+         {"volumeType", {volumeType}},
+         {"interfaceType", {interfaceType}},
+         {"allowed", allowed}});
+}
+
+void Finder::findInternalTypeOutside(const Boundary& boundary)
+{
+    if (!boundary.isInternal()) {
+        return;
+    }
+    const std::vector<gtm::FaceUse*> faceUses = boundary.faceUses();
+    const std::unordered_set<const gtm::FaceUse*> own(faceUses.begin(), faceUses.end());
+    std::vector<const gtm::Face*> faces;
+    std::vector<const gtm::FaceUse*> faceSides;
+    for (const gtm::FaceUse* faceUse : faceUses) {
+        if (faceUse->partner() != nullptr && own.count(faceUse->partner()) > 0) {
+            continue;
+        }
+        if (internalFaces(*boundary.volume()).count(faceUse->face()) > 0) {
+            faceSides.push_back(faceUse);
+        } else {
+            faces.push_back(faceUse->face());
+        }
+    }
+    if (faces.empty() && faceSides.empty()) {
+        return;
+    }
+    std::string sentence = "is of the internal type " + displayName(boundary.type()) + ",";
+    if (!faces.empty()) {
+        sentence += " but lies on outer faces of its volume: " + listed(idsOf(faces)) + ".";
+    }
+    if (!faceSides.empty()) {
+        sentence += (faces.empty() ? " but has one side only" : " It has one side only") +
+                    std::string(" of internal faces: ") + listed(idsOf(faceSides)) + ".";
+    }
+    add(FindingKind::InternalTypeOutside, boundary, sentence,
+        {{"faces", idsOf(faces)}, {"faceSides", idsOf(faceSides)}});
+}
+
+void Finder::findUnmatchedTag(const Boundary& boundary)
+{
+    if (boundary.hasTag(BoundaryTag::Interface) && boundary.noOfInterfaces() == 0) {
+        add(FindingKind::UnmatchedTag, boundary, "is tagged for use in an interface and is in none.");
+    }
+}
+
+const std::unordered_set<const gtm::Face*>& Finder::internalFaces(const Volume& volume)
+{
+    const auto [entry, isNew] = m_internalFaces.try_emplace(&volume);
+    if (isNew) {
+        const std::vector<gtm::Face*> faces = volume.internalFaces();
+        entry->second.insert(faces.begin(), faces.end());
+    }
+    return entry->second;
+}
+
+} // namespace
+
+std::vector<Finding> findByRules(const Physics& physics) { return Finder(physics).find(); }
+
+} // namespace physics::apps

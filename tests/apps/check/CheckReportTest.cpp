@@ -1,0 +1,155 @@
+#include "apps/check/CheckReport.h"
+
+#include "gtm/Interface.h"
+#include "locationmodel/LocationModel.h"
+#include "locationmodel/TopologyBuilder.h"
+#include "physics/Boundary.h"
+#include "physics/Interface.h"
+#include "physics/Physics.h"
+#include "physics/Volume.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+// What no case file can ask for: the check of a set-up that was changed after it was built.
+
+namespace physics::apps {
+namespace {
+
+std::vector<std::string> idsOf(const CheckReport& report)
+{
+    std::vector<std::string> ids;
+    for (const Finding* finding : report.findings()) {
+        ids.push_back(std::string(rowOf(finding->kind).id) + " " + finding->subject.name);
+    }
+    return ids;
+}
+
+/// Two boxes in a row, each a volume with a boundary on every face.
+class ChangedSetUp : public testing::Test {
+protected:
+    ChangedSetUp()
+    {
+        gtm::bundled::TopologyBuilder builder;
+        builder.addBody("left");
+        builder.addBody("right");
+        builder.addFace("in", {"left", {}, {}});
+        builder.addFace("between", {"left", {}, {}}, gtm::bundled::TopologyBuilder::Side{"right", {}, {}});
+        builder.addFace("out", {"right", {}, {}});
+        model = builder.build();
+        physics = std::make_unique<Physics>(model.get(), false);
+        left = physics->createVolume("left", std::string("left"), VolumeType::Fluid);
+        right = physics->createVolume("right", std::string("right"), VolumeType::Fluid);
+        in = left->createBoundary("in", std::string("in"), BoundaryType::VelocityInlet);
+        leftContact = left->createBoundary("contact", std::string("between"), BoundaryType::Wall);
+        out = right->createBoundary("out", std::string("out"), BoundaryType::VelocityInlet);
+        rightContact = right->createBoundary("contact", std::string("between"), BoundaryType::Wall);
+    }
+
+    CheckReport checked() const { return check(*physics, *model, {}, false); }
+
+    std::unique_ptr<gtm::bundled::LocationModel> model;
+    std::unique_ptr<Physics> physics;
+    Volume* left = nullptr;
+    Volume* right = nullptr;
+    Boundary* in = nullptr;
+    Boundary* out = nullptr;
+    Boundary* leftContact = nullptr;
+    Boundary* rightContact = nullptr;
+};
+
+TEST_F(ChangedSetUp, isSoundAtFirst)
+{
+    EXPECT_EQ(idsOf(checked()), std::vector<std::string>{});
+    EXPECT_TRUE(physics->isValid(false));
+}
+
+TEST_F(ChangedSetUp, hasAnInterfaceWithTwoVolumesOnOneSide)
+{
+    const Interface* contact = physics->createInterface("contact", leftContact, rightContact, InterfaceType::Wall);
+    EXPECT_EQ(idsOf(checked()), std::vector<std::string>{});
+
+    contact->interface()->relocate({{in->boundary(), out->boundary()}, {rightContact->boundary()}}, false);
+
+    const CheckReport report = checked();
+    ASSERT_EQ(idsOf(report), std::vector<std::string>{"PS010 contact"});
+    EXPECT_EQ(report.findings().front()->message,
+              "The interface \"contact\" is not valid. The first side has boundaries of two interiors, \"left\" and "
+              "\"right\".");
+}
+
+TEST_F(ChangedSetUp, hasABoundaryTypeThatItsVolumeDoesNotAllowAfterARetype)
+{
+    physics->createInterface("gate", in, out, InterfaceType::Fan);
+    EXPECT_EQ(idsOf(checked()), std::vector<std::string>{});
+
+    left->setType(VolumeType::Solid);
+
+    EXPECT_EQ(in->type(), BoundaryType::VelocityInlet) << "the interface allows no type next to a solid";
+    EXPECT_EQ(idsOf(checked()), (std::vector<std::string>{"PS012 left::in", "PS013 gate"}));
+}
+
+TEST_F(ChangedSetUp, hasAVolumeAndABoundaryWithoutAType)
+{
+    right->setType(VolumeType::Unset);
+
+    const CheckReport report = checked();
+
+    ASSERT_EQ(idsOf(report), (std::vector<std::string>{"PS012 right::contact", "PS012 right::out"}));
+    EXPECT_EQ(report.findings().back()->message,
+              "The boundary \"right::out\" is of type VelocityInlet, which a volume of type Unset does not allow; no "
+              "type is allowed.");
+    EXPECT_EQ(report.findings().back()->details.at("allowed"), std::vector<std::string>{});
+}
+
+TEST_F(ChangedSetUp, isCoveredWithNames)
+{
+    in->relocate(std::string("in, between"), false);
+    out->destroy();
+
+    const Coverage coverage = checked().coverage;
+
+    EXPECT_EQ(coverage.noOfFaceSides, 4U);
+    EXPECT_EQ(coverage.noInOne, 2U);
+    EXPECT_EQ(coverage.noInSeveral, 1U);
+    EXPECT_EQ(coverage.noInNoneOutside, 1U);
+    EXPECT_EQ(coverage.noInNoneInside, 0U);
+    ASSERT_EQ(coverage.bodies.size(), 2U);
+    EXPECT_EQ(coverage.bodies[0].volumes, std::vector<std::string>{"left"});
+    EXPECT_EQ(coverage.bodies[0].faceSides[1].id, "between@left");
+    EXPECT_EQ(coverage.bodies[0].faceSides[1].boundaries, (std::vector<std::string>{"left::contact", "left::in"}));
+    EXPECT_EQ(coverage.bodies[1].faceSides[1].id, "out@right");
+    EXPECT_EQ(coverage.bodies[1].faceSides[1].boundaries, std::vector<std::string>{});
+}
+
+TEST_F(ChangedSetUp, leavesMaskedBodiesOutOfItsCoverage)
+{
+    physics->maskBodies({model->bodies()[1]});
+
+    const Coverage coverage = checked().coverage;
+
+    EXPECT_EQ(coverage.maskedBodies, std::vector<std::string>{"right"});
+    EXPECT_EQ(coverage.noOfFaceSides, 2U);
+}
+
+TEST_F(ChangedSetUp, searchesNearNamesForTheFirstOfVeryManyOnly)
+{
+    for (int i = 0; i < 101; ++i) {
+        in->volume()->createBoundary("b" + std::to_string(1000 + i), std::string("inn"), BoundaryType::Wall);
+    }
+
+    const CheckReport report = checked();
+    const std::vector<const Finding*> findings = report.findings();
+
+    ASSERT_EQ(findings.size(), 101U);
+    EXPECT_EQ(findings[99]->details.at("nearest"), std::vector<std::string>{"in"});
+    EXPECT_EQ(findings[100]->details.count("nearest"), 0U);
+    EXPECT_EQ(findings[100]->message,
+              "The boundary \"left::b1100\" has a location that cannot be resolved. Not found: \"inn\".");
+}
+
+} // namespace
+} // namespace physics::apps
