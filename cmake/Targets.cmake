@@ -25,11 +25,26 @@ function(physics_target target)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
 endfunction()
 
+# Installs a target with its public headers, which are included from the root of the tree here and afterwards. The
+# target becomes a component of the package, by its own name.
+function(physics_install target)
+  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
+  add_library(physics::${target} ALIAS ${target})
+  if(NOT PHYSICS_INSTALL)
+    return()
+  endif()
+  install(TARGETS ${target} EXPORT ${target}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT ${target} NAMESPACE physics:: FILE ${target}-targets.cmake DESTINATION ${PHYSICS_PACKAGE_DIR})
+endfunction()
+
 # A library of ours twice from one compilation: `<name>-objects`, which tests link because it hides
-# nothing from them, and the versioned shared library `<name>`, which everybody else links. The global
-# property PHYSICS_LIBRARIES lists them all.
+# nothing from them, and the versioned shared library `<name>`, which everybody else links and which is
+# installed with its public HEADERS as a component of its name. The global property PHYSICS_LIBRARIES lists
+# them all.
 function(physics_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;HEADERS;PUBLIC;PRIVATE")
   add_library(${name}-objects OBJECT ${arg_SOURCES})
   physics_target(${name}-objects)
   target_link_libraries(${name}-objects PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
@@ -43,4 +58,5 @@ function(physics_library name)
   target_link_options(${name} PRIVATE "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
   set_target_properties(${name} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
   set_property(GLOBAL APPEND PROPERTY PHYSICS_LIBRARIES ${name})
+  physics_install(${name} ${arg_HEADERS})
 endfunction()
