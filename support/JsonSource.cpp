@@ -1,12 +1,10 @@
 #include "support/JsonSource.h"
 
 #include "support/JsonDocument.h"
+#include "support/WholeFile.h"
 
 #include <nlohmann/json.hpp>
 
-#include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -20,13 +18,11 @@ JsonSource JsonSource::fromFile(const std::filesystem::path& file)
     if (std::filesystem::is_directory(file, ignored)) {
         throw JsonError(file.string() + ": this is a folder; give the name of a JSON file.");
     }
-    errno = 0;
-    std::ifstream stream(file, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (!stream.is_open() || stream.bad()) {
-        throw JsonError(file.string() + ": cannot read this file: " + std::generic_category().message(errno) + ".");
+    try {
+        return fromText(readWholeFile(file), file.string());
+    } catch (const FileError& error) {
+        throw JsonError(error.what());
     }
-    return fromText(std::move(text), file.string());
 }
 
 JsonSource JsonSource::fromText(std::string text, std::string name)
