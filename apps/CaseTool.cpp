@@ -4,6 +4,8 @@
 #include "apps/Output.h"
 #include "apps/verbs/BuildVerb.h"
 #include "apps/verbs/CheckVerb.h"
+#include "apps/verbs/RestoreVerb.h"
+#include "apps/verbs/SaveVerb.h"
 #include "apps/verbs/TopologyVerb.h"
 #include "support/InQuotes.h"
 #include "support/NearestName.h"
@@ -76,6 +78,8 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
     verbs.push_back(std::make_unique<TopologyVerb>());
     verbs.push_back(std::make_unique<BuildVerb>());
     verbs.push_back(std::make_unique<CheckVerb>());
+    verbs.push_back(std::make_unique<SaveVerb>());
+    verbs.push_back(std::make_unique<RestoreVerb>());
     return verbs;
 }
 

@@ -8,7 +8,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <optional>
 #include <ostream>
 
 namespace physics::apps {
@@ -21,14 +20,12 @@ void TopologyVerb::addOptions(CLI::App& app)
     app.add_option("--format", m_format, "text: tables to read; json: a topology file")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();
-    CLI::Option* imprint = app.add_flag("--imprint", m_imprint, "Make touching bodies share faces (default for STEP)");
-    app.add_flag("--no-imprint", m_noImprint, "Take the faces as they are (default for BREP)")->excludes(imprint);
+    m_imprint.addTo(app);
 }
 
 ExitCode TopologyVerb::run(Output& output)
 {
-    const std::optional<bool> imprint = m_imprint || m_noImprint ? std::optional(m_imprint) : std::nullopt;
-    const GeometryFile geometry = readGeometry(m_file, imprint);
+    const GeometryFile geometry = readGeometry(m_file, m_imprint.value());
     for (const std::string& note : geometry.notes) {
         output.note(note);
     }

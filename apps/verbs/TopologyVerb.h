@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/ImprintOption.h"
 #include "apps/Verb.h"
 
 namespace physics::apps {
@@ -15,8 +16,7 @@ public:
 private:
     std::string m_file;
     std::string m_format = "text";
-    bool m_imprint = false;
-    bool m_noImprint = false;
+    ImprintOption m_imprint;
 };
 
 } // namespace physics::apps

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "apps/ImprintOption.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace physics::apps {
+
+/// The options of every verb that takes a set-up in either form: a case file, which names its geometry, or a
+/// saved text, which does not.
+class SetUpOptions {
+public:
+    /// This object must outlive `app`.
+    void addTo(CLI::App& app);
+
+    const std::string& geometry() const { return m_geometry; }
+    std::optional<bool> imprint() const { return m_imprint.value(); }
+
+    /// Whether the options say anything, which is of no use when there is no saved text.
+    bool areGiven() const { return !m_geometry.empty() || imprint().has_value(); }
+
+private:
+    std::string m_geometry;
+    ImprintOption m_imprint;
+};
+
+/// What verbs say about an argument that takes either form.
+inline constexpr const char* setUpHelp = "A case file (*.json), or a saved text (any other name)";
+
+/// Files named *.json are case files, all others saved texts.
+bool isCaseFile(const std::filesystem::path& file);
+
+} // namespace physics::apps
