@@ -4,9 +4,11 @@
 #include "apps/Output.h"
 #include "apps/verbs/BuildVerb.h"
 #include "apps/verbs/CheckVerb.h"
+#include "apps/verbs/ReportVerb.h"
 #include "apps/verbs/RestoreVerb.h"
 #include "apps/verbs/SaveVerb.h"
 #include "apps/verbs/TopologyVerb.h"
+#include "apps/verbs/TypesVerb.h"
 #include "support/InQuotes.h"
 #include "support/NearestName.h"
 
@@ -78,8 +80,10 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
     verbs.push_back(std::make_unique<TopologyVerb>());
     verbs.push_back(std::make_unique<BuildVerb>());
     verbs.push_back(std::make_unique<CheckVerb>());
+    verbs.push_back(std::make_unique<ReportVerb>());
     verbs.push_back(std::make_unique<SaveVerb>());
     verbs.push_back(std::make_unique<RestoreVerb>());
+    verbs.push_back(std::make_unique<TypesVerb>());
     return verbs;
 }
 

@@ -1,5 +1,7 @@
 #include "apps/Output.h"
 
+#include "apps/Pager.h"
+
 #include <ostream>
 
 namespace physics::apps {
@@ -26,5 +28,13 @@ void Output::heading(std::string_view text) { write(m_out, bold, text, m_isOutCo
 void Output::complain(std::string_view line) { write(m_err, red, line, m_isErrColored); }
 
 void Output::note(std::string_view line) { write(m_err, yellow, line, m_isErrColored); }
+
+void Output::page(const std::string& text)
+{
+    m_out.flush();
+    if (m_pager.empty() || !showThrough(m_pager, text)) {
+        m_out << text;
+    }
+}
 
 } // namespace physics::apps

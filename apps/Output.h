@@ -3,6 +3,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace physics::apps {
 
@@ -16,6 +17,12 @@ public:
 
     std::ostream& out() { return m_out; }
 
+    /// Makes a command of the shell show what is paged; an empty one, as at first, shows nothing.
+    void setPager(std::string command) { m_pager = std::move(command); }
+
+    /// Writes a result that may be longer than a screen: through the pager where there is one.
+    void page(const std::string& text);
+
     /// A heading of a result.
     void heading(std::string_view text);
 
@@ -28,6 +35,7 @@ private:
     std::ostream& m_err;
     bool m_isOutColored;
     bool m_isErrColored;
+    std::string m_pager;
 };
 
 } // namespace physics::apps

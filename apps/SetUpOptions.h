@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -22,8 +23,8 @@ public:
     const std::string& geometry() const { return m_geometry; }
     std::optional<bool> imprint() const { return m_imprint.value(); }
 
-    /// Whether the options say anything, which is of no use when there is no saved text.
-    bool areGiven() const { return !m_geometry.empty() || imprint().has_value(); }
+    /// Throws `InputError` when the options are given and none of the files is a saved text.
+    void refuseWithout(const std::vector<std::string>& files) const;
 
 private:
     std::string m_geometry;

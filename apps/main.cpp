@@ -1,5 +1,6 @@
 #include "apps/CaseTool.h"
 #include "apps/Output.h"
+#include "apps/Pager.h"
 
 #include <unistd.h>
 
@@ -25,6 +26,9 @@ bool wantsColor(int descriptor)
 int main(int argc, char** argv)
 {
     physics::apps::Output output(std::cout, std::cerr, wantsColor(STDOUT_FILENO), wantsColor(STDERR_FILENO));
+    if (isatty(STDOUT_FILENO) == 1) {
+        output.setPager(physics::apps::pagerOfUser());
+    }
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     return static_cast<int>(physics::apps::runCaseTool(arguments, output));
 }

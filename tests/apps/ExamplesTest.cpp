@@ -24,6 +24,24 @@ TEST(Examples, theFanPassageIsBuiltFromItsGeometryFile)
     EXPECT_EQ(run.code, 0);
 }
 
+TEST(Examples, theHeatExchangerIsReported)
+{
+    const ProgramRun run("report examples/heat_exchanger.json");
+
+    EXPECT_TRUE(golden::matches(run.out, "report-heat-exchanger.txt"));
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.code, 0);
+}
+
+TEST(Examples, theFanPassageIsReported)
+{
+    const ProgramRun run("report examples/fan_passage.json");
+
+    EXPECT_TRUE(golden::matches(run.out, "report-fan-passage.txt"));
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.code, 0);
+}
+
 TEST(Examples, aGeometryFileIsListedLikeATopologyFile)
 {
     const ToolRun run({"topology", sourceFile("examples/fan_passage.step")});

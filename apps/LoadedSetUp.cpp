@@ -1,0 +1,39 @@
+#include "apps/LoadedSetUp.h"
+
+#include "apps/InputError.h"
+#include "apps/SetUpOptions.h"
+
+namespace physics::apps {
+namespace {
+
+std::variant<LoadedCase, RestoredSetUp> load(const std::filesystem::path& file, const SetUpOptions& options,
+                                             Output& output)
+{
+    if (isCaseFile(file)) {
+        return LoadedCase(file, output);
+    }
+    if (options.geometry().empty()) {
+        throw InputError(file.string() + ": a saved text does not name its geometry; give it with --geometry. (The "
+                                         "name of a case file ends in .json.)");
+    }
+    return RestoredSetUp(options.geometry(), options.imprint(), file, output);
+}
+
+} // namespace
+
+LoadedSetUp::LoadedSetUp(const std::filesystem::path& file, const SetUpOptions& options, Output& output)
+    : m_loaded(load(file, options, output))
+{}
+
+const BuiltCase& LoadedSetUp::built() const
+{
+    return std::visit([](const auto& loaded) -> const BuiltCase& { return loaded.built(); }, m_loaded);
+}
+
+std::vector<std::string> LoadedSetUp::refusals() const
+{
+    const auto* loaded = std::get_if<LoadedCase>(&m_loaded);
+    return loaded == nullptr ? std::vector<std::string>() : loaded->refusals();
+}
+
+} // namespace physics::apps
