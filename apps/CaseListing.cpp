@@ -3,6 +3,7 @@
 #include "apps/CaseBuilder.h"
 #include "apps/Joined.h"
 #include "apps/Output.h"
+#include "apps/PeriodicText.h"
 #include "apps/Table.h"
 #include "gtm/Body.h"
 #include "gtm/Boundary.h"
@@ -20,8 +21,6 @@
 #include "physics/TypeNames.h"
 #include "physics/Volume.h"
 
-#include <array>
-#include <charconv>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -47,19 +46,6 @@ std::string joinedNames(const std::vector<T*>& objects)
         names.push_back(object->name());
     }
     return joined(names);
-}
-
-/// The shortest text that reads back as the same number.
-std::string textOf(double number)
-{
-    std::array<char, 32> buffer{};
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
-    return {buffer.data(), end};
-}
-
-std::string textOf(const std::array<double, 3>& vector)
-{
-    return "(" + textOf(vector[0]) + ", " + textOf(vector[1]) + ", " + textOf(vector[2]) + ")";
 }
 
 std::string textOf(const BuiltCase& built, const Model* model)
@@ -122,20 +108,6 @@ void listBoundaries(const BuiltCase& built, Output& output)
     table.print("boundaries", output);
 }
 
-std::string periodicityOf(const Interface& interface)
-{
-    switch (interface.periodicity()) {
-    case Periodicity::TranslationallyPeriodic:
-        return "translation by " + textOf(interface.getPeriodicOffset());
-    case Periodicity::RotationallyPeriodic:
-        return "rotation by " + textOf(interface.getPeriodicAngle()) + " about " +
-               textOf(interface.getPeriodicDirection()) + " through " + textOf(interface.getPeriodicOrigin());
-    case Periodicity::NonPeriodic:
-        break;
-    }
-    return "-";
-}
-
 std::string marksOf(const Interface& interface)
 {
     std::vector<std::string> marks;
@@ -156,7 +128,7 @@ void listInterfaces(const BuiltCase& built, Output& output)
     for (const Interface* interface : built.physics->interfaces()) {
         table.add({std::to_string(interface->id()), interface->name(), displayName(interface->type()),
                    textOf(built, interface->model()), interface->boundary(Side::First)->fullName(),
-                   interface->boundary(Side::Second)->fullName(), periodicityOf(*interface),
+                   interface->boundary(Side::Second)->fullName(), periodicText(*interface),
                    displayName(interface->connectivity()), displayName(interface->meshConnectivity()),
                    marksOf(*interface), displayName(interface->state())});
     }

@@ -4,6 +4,7 @@
 #include "apps/Output.h"
 #include "apps/verbs/BuildVerb.h"
 #include "apps/verbs/CheckVerb.h"
+#include "apps/verbs/DiffVerb.h"
 #include "apps/verbs/ReportVerb.h"
 #include "apps/verbs/RestoreVerb.h"
 #include "apps/verbs/SaveVerb.h"
@@ -83,6 +84,7 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
     verbs.push_back(std::make_unique<ReportVerb>());
     verbs.push_back(std::make_unique<SaveVerb>());
     verbs.push_back(std::make_unique<RestoreVerb>());
+    verbs.push_back(std::make_unique<DiffVerb>());
     verbs.push_back(std::make_unique<TypesVerb>());
     return verbs;
 }

@@ -39,6 +39,9 @@ class SchemaTest(unittest.TestCase):
     def test_good_cases_are_valid(self):
         self.check(filter(is_case, (CASES / "good-cases").glob("*.json")), True, 2)
 
+    def test_cases_to_compare_are_valid(self):
+        self.check((CASES / "diff").glob("*.json"), True, 1)
+
     def test_broken_cases_have_the_right_shape(self):
         self.check(filter(is_case, (CASES / "broken-cases").glob("*.json")), True, 40)
 
