@@ -218,8 +218,8 @@ bool PhysicsSerialiser::hasSomethingToLose(const Physics& physics)
 
 bool PhysicsSerialiser::build(const SavedSetUp& saved)
 {
-    emptySetUp();
     try {
+        emptySetUp();
         if (!buildTopology(saved, m_physics->m_virtualTopology, m_entities)) {
             emptySetUp();
             return false;
@@ -229,7 +229,7 @@ bool PhysicsSerialiser::build(const SavedSetUp& saved)
         buildObjects(saved);
         m_physics->m_reportCreationFailures = saved.reportCreationFailures;
     } catch (...) {
-        emptySetUp();
+        emptySetUp(); // also what a failure of the clearing itself left
         throw;
     }
     return true;
