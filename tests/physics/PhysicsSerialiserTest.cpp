@@ -6,7 +6,8 @@
 #include "physics/Settings.h"
 #include "physics/ThreadBundle.h"
 #include "physics/Volume.h"
-#include "tests/physics/saved/SavedCase.h"
+#include "tests/physics/saved/FullSetUp.h"
+#include "tests/physics/saved/Texts.h"
 #include "tests/scripted/World.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,8 @@
 // Every complaint about a text that can be read but makes no set-up: a few lines of a sound text are
 // exchanged, and all that is said about it is compared.
 
-#include "tests/physics/saved/SavedCase.h"
+#include "tests/physics/saved/FullSetUp.h"
+#include "tests/physics/saved/Texts.h"
 
 #include <gtest/gtest.h>
 

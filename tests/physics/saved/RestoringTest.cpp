@@ -9,7 +9,8 @@
 #include "physics/ThreadBundle.h"
 #include "physics/Volume.h"
 #include "tests/physics/PhysicsCase.h"
-#include "tests/physics/saved/SavedCase.h"
+#include "tests/physics/saved/FullSetUp.h"
+#include "tests/physics/saved/Texts.h"
 
 #include <gtest/gtest.h>
 
