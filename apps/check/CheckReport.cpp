@@ -1,5 +1,6 @@
 #include "apps/check/CheckReport.h"
 
+#include "apps/check/Listed.h"
 #include "apps/check/RuleFindings.h"
 #include "apps/check/StateFindings.h"
 #include "physics/Boundary.h"
@@ -8,73 +9,41 @@
 #include "physics/Volume.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
 namespace physics::apps {
 namespace {
 
-/// Gathers what is said of each object, in the order of the set-up.
-class Gathering {
+/// Takes from the front of a list, behind those that were taken before, what is about a region.
+template <class T>
+class InOrder {
 public:
-    explicit Gathering(const Physics& physics)
-    {
-        addObject(nullptr);
-        addObjects(physics.volumes());
-        addObjects(physics.boundaries());
-        addObjects(physics.interfaces());
-    }
+    explicit InOrder(std::vector<T> list) : m_list(std::move(list)) {}
 
-    void add(std::vector<Finding> findings)
+    template <class Take>
+    void takeAbout(const Region* region, const Take& take)
     {
-        for (Finding& finding : findings) {
-            at(finding.region).findings.push_back(std::move(finding));
+        for (; m_next < m_list.size() && m_list[m_next].region == region; ++m_next) {
+            take(m_list[m_next]);
         }
-    }
-
-    void add(std::vector<Physics::Complaint> complaints)
-    {
-        for (Physics::Complaint& complaint : complaints) {
-            at(complaint.region).lines = std::move(complaint.lines);
-        }
-    }
-
-    std::vector<CheckReport::Object> take(bool ignoreWarnings)
-    {
-        for (CheckReport::Object& object : m_objects) {
-            if (ignoreWarnings) {
-                std::erase_if(object.findings,
-                              [](const Finding& finding) { return rowOf(finding.kind).severity == Severity::Warning; });
-            }
-            std::stable_sort(object.findings.begin(), object.findings.end(),
-                             [](const Finding& left, const Finding& right) { return left.kind < right.kind; });
-        }
-        std::erase_if(m_objects, [](const CheckReport::Object& object) {
-            return object.findings.empty() && object.lines.empty();
-        });
-        return std::move(m_objects);
     }
 
 private:
-    void addObject(const Region* region)
-    {
-        m_indexes.emplace(region, m_objects.size());
-        m_objects.push_back({region, {}, {}});
-    }
-
-    template <class R>
-    void addObjects(const std::vector<R*>& regions)
-    {
-        for (const R* region : regions) {
-            addObject(region);
-        }
-    }
-
-    CheckReport::Object& at(const Region* region) { return m_objects[m_indexes.at(region)]; }
-
-    std::vector<CheckReport::Object> m_objects;
-    std::unordered_map<const Region*, std::size_t> m_indexes;
+    std::vector<T> m_list;
+    std::size_t m_next = 0;
 };
+
+std::vector<const Region*> allRegions(const Listed& setUp)
+{
+    std::vector<const Region*> regions = {nullptr};
+    const auto add = [&regions](const auto& more) { regions.insert(regions.end(), more.begin(), more.end()); };
+    add(setUp.volumes);
+    add(setUp.boundaries);
+    add(setUp.interfaces);
+    return regions;
+}
+
+bool isWarning(const Finding& finding) { return rowOf(finding.kind).severity == Severity::Warning; }
 
 std::vector<Finding> findingsOf(const std::vector<Problem>& refusals)
 {
@@ -110,14 +79,31 @@ std::vector<const Finding*> CheckReport::findings() const
 CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& model,
                   const std::vector<Problem>& refusals, bool ignoreWarnings)
 {
-    Gathering gathering(physics);
-    gathering.add(findingsOf(refusals));
-    gathering.add(findByState(physics, model));
-    gathering.add(findByRules(physics));
-    gathering.add(physics.complaints(ignoreWarnings));
     CheckReport report;
-    report.objects = gathering.take(ignoreWarnings);
-    report.coverage = coverageOf(physics, model);
+    const Listed setUp(physics);
+    // All four lists are in the order of the set-up, which begins with what is about no object.
+    InOrder byCase(findingsOf(refusals));
+    InOrder byState(findByState(setUp, model));
+    InOrder byRules(findByRules(setUp));
+    InOrder byLibrary(physics.complaints(ignoreWarnings));
+    for (const Region* region : allRegions(setUp)) {
+        CheckReport::Object object{region, {}, {}};
+        const auto take = [&object, ignoreWarnings](Finding& finding) {
+            if (!ignoreWarnings || !isWarning(finding)) {
+                object.findings.push_back(std::move(finding));
+            }
+        };
+        byCase.takeAbout(region, take);
+        byState.takeAbout(region, take);
+        byRules.takeAbout(region, take);
+        byLibrary.takeAbout(region, [&object](Physics::Complaint& said) { object.lines = std::move(said.lines); });
+        std::stable_sort(object.findings.begin(), object.findings.end(),
+                         [](const Finding& left, const Finding& right) { return left.kind < right.kind; });
+        if (!object.findings.empty() || !object.lines.empty()) {
+            report.objects.push_back(std::move(object));
+        }
+    }
+    report.coverage = coverageOf(setUp, model);
     return report;
 }
 

@@ -1,37 +1,57 @@
 #include "apps/check/Coverage.h"
 
-#include "apps/check/Naming.h"
+#include "apps/check/Listed.h"
 #include "gtm/Body.h"
 #include "gtm/Face.h"
 #include "gtm/FaceUse.h"
 #include "locationmodel/LocationModel.h"
 #include "physics/Boundary.h"
-#include "physics/Physics.h"
 #include "physics/Volume.h"
 
-#include <unordered_map>
-#include <unordered_set>
+#include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace physics::apps {
 namespace {
 
-/// Region -> the names of those that have it.
-template <class R>
-using Owners = std::unordered_map<const R*, std::vector<std::string>>;
+using Ownership = std::pair<const gtm::FaceUse*, const Boundary*>;
 
-template <class R>
-std::vector<std::string> namesIn(const Owners<R>& owners, const R* region)
+bool isBefore(const Ownership& left, const Ownership& right)
 {
-    const auto found = owners.find(region);
-    return found == owners.end() ? std::vector<std::string>() : found->second;
+    return std::less<>()(left.first, right.first); // only to find them again: no output is in this order
+}
+
+/// Which boundary has which face use; those of one face use stand together, in the order of the set-up.
+std::vector<Ownership> ownershipsOf(const std::vector<const Boundary*>& boundaries)
+{
+    std::vector<Ownership> ownerships;
+    for (const Boundary* boundary : boundaries) {
+        for (const gtm::FaceUse* faceUse : boundary->faceUses()) {
+            ownerships.emplace_back(faceUse, boundary);
+        }
+    }
+    std::stable_sort(ownerships.begin(), ownerships.end(), isBefore);
+    return ownerships;
+}
+
+/// The internal faces of all volumes, to be searched.
+std::vector<const gtm::Face*> internalFacesOf(const std::vector<const Volume*>& volumes)
+{
+    std::vector<const gtm::Face*> faces;
+    for (const Volume* volume : volumes) {
+        const std::vector<gtm::Face*> own = volume->internalFaces();
+        faces.insert(faces.end(), own.begin(), own.end());
+    }
+    std::sort(faces.begin(), faces.end(), std::less<>());
+    return faces;
 }
 
 void count(const Coverage::FaceSide& faceSide, Coverage& coverage)
 {
-    ++coverage.noOfFaceSides;
-    if (faceSide.boundaries.size() == 1) {
+    if (faceSide.noOfOwners == 1) {
         ++coverage.noInOne;
-    } else if (faceSide.boundaries.size() > 1) {
+    } else if (faceSide.noOfOwners > 1) {
         ++coverage.noInSeveral;
     } else {
         ++(faceSide.isInternal ? coverage.noInNoneInside : coverage.noInNoneOutside);
@@ -40,41 +60,40 @@ void count(const Coverage::FaceSide& faceSide, Coverage& coverage)
 
 } // namespace
 
-Coverage coverageOf(const Physics& physics, const gtm::bundled::LocationModel& model)
+std::vector<std::string> Coverage::ownersOf(const FaceSide& faceSide) const
+{
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < faceSide.noOfOwners; ++i) {
+        names.push_back(owners[faceSide.firstOwner + i]->fullName());
+    }
+    return names;
+}
+
+Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model)
 {
     Coverage coverage;
-    Owners<gtm::Body> volumesOf;
-    std::unordered_set<const gtm::Face*> internal;
-    for (const Volume* volume : physics.volumes()) {
-        for (const gtm::Body* body : volume->bodies()) {
-            volumesOf[body].push_back(volume->fullName());
-        }
-        for (const gtm::Face* face : volume->internalFaces()) {
-            internal.insert(face);
-        }
-        coverage.volumes.push_back({volume->fullName(), {}, idsOf(volume->bodies())});
+    coverage.volumes.assign(setUp.volumes.begin(), setUp.volumes.end());
+    coverage.boundaries.assign(setUp.boundaries.begin(), setUp.boundaries.end());
+    const std::vector<Ownership> ownerships = ownershipsOf(coverage.boundaries);
+    for (const Ownership& ownership : ownerships) {
+        coverage.owners.push_back(ownership.second);
     }
-    Owners<gtm::FaceUse> boundariesOf;
-    for (const Boundary* boundary : physics.boundaries()) {
-        for (const gtm::FaceUse* faceUse : boundary->faceUses()) {
-            boundariesOf[faceUse].push_back(boundary->fullName());
-        }
-        coverage.boundaries.push_back(
-            {boundary->fullName(), boundary->volume()->fullName(), idsOf(boundary->faceUses())});
-    }
+    const std::vector<const gtm::Face*> internal = internalFacesOf(coverage.volumes);
     for (gtm::Body* body : model.bodies()) {
-        if (physics.isMasked(body)) {
-            coverage.maskedBodies.push_back(body->id());
+        if (setUp.physics.isMasked(body)) {
+            coverage.maskedBodies.push_back(body);
             continue;
         }
-        Coverage::Body& entry = coverage.bodies.emplace_back();
-        entry.id = body->id();
-        entry.volumes = namesIn<gtm::Body>(volumesOf, body);
-        for (const gtm::FaceUse* faceUse : model.faceUses(body)) {
-            entry.faceSides.push_back({faceUse->id(), faceUse->face()->id(),
-                                       namesIn<gtm::FaceUse>(boundariesOf, faceUse),
-                                       internal.count(faceUse->face()) > 0});
-            count(entry.faceSides.back(), coverage);
+        const std::vector<gtm::FaceUse*> faceUses = model.faceUses(body);
+        coverage.bodies.push_back({body, faceUses.size()});
+        for (const gtm::FaceUse* faceUse : faceUses) {
+            const auto [first, last] =
+                std::equal_range(ownerships.begin(), ownerships.end(), Ownership(faceUse, nullptr), isBefore);
+            const bool isInternal =
+                std::binary_search(internal.begin(), internal.end(), faceUse->face(), std::less<const gtm::Face*>());
+            coverage.faceSides.push_back({faceUse, static_cast<std::size_t>(first - ownerships.begin()),
+                                          static_cast<std::size_t>(last - first), isInternal});
+            count(coverage.faceSides.back(), coverage);
         }
     }
     return coverage;

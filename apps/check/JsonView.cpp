@@ -1,11 +1,17 @@
 #include "apps/check/CheckReport.h"
 #include "apps/check/CheckViews.h"
 #include "apps/check/Naming.h"
+#include "gtm/Body.h"
+#include "gtm/Face.h"
+#include "gtm/FaceUse.h"
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
 #include "physics/Volume.h"
 
 #include <nlohmann/json.hpp>
+
+#include <cstddef>
+#include <unordered_map>
 
 namespace physics::apps {
 namespace {
@@ -48,36 +54,47 @@ Json toJson(const Finding& finding, const Places& places)
     return json;
 }
 
-Json toJson(const Coverage::Body& body)
+Json bodiesOf(const Coverage& coverage)
 {
-    Json json = {{"id", body.id}, {"volumes", body.volumes}, {"faceSides", Json::array()}};
-    for (const Coverage::FaceSide& side : body.faceSides) {
-        json["faceSides"].push_back(
-            {{"id", side.id}, {"face", side.face}, {"isInternal", side.isInternal}, {"boundaries", side.boundaries}});
+    std::unordered_map<const gtm::Body*, std::vector<std::string>> volumesOf;
+    for (const Volume* volume : coverage.volumes) {
+        for (const gtm::Body* body : volume->bodies()) {
+            volumesOf[body].push_back(volume->fullName());
+        }
     }
-    return json;
+    Json bodies = Json::array();
+    auto side = coverage.faceSides.begin();
+    for (const Coverage::Body& body : coverage.bodies) {
+        Json sides = Json::array();
+        for (const auto end = side + static_cast<std::ptrdiff_t>(body.noOfFaceSides); side != end; ++side) {
+            sides.push_back({{"id", side->faceUse->id()},
+                             {"face", side->faceUse->face()->id()},
+                             {"isInternal", side->isInternal},
+                             {"boundaries", coverage.ownersOf(*side)}});
+        }
+        bodies.push_back({{"id", body.body->id()}, {"volumes", volumesOf[body.body]}, {"faceSides", sides}});
+    }
+    return bodies;
 }
 
 Json toJson(const Coverage& coverage)
 {
-    Json json = {{"faceSides", coverage.noOfFaceSides},
+    Json json = {{"faceSides", coverage.faceSides.size()},
                  {"inOneBoundary", coverage.noInOne},
                  {"inSeveralBoundaries", coverage.noInSeveral},
                  {"inNone", coverage.noInNoneOutside},
                  {"inNoneInsideVolumes", coverage.noInNoneInside},
-                 {"maskedBodies", coverage.maskedBodies},
+                 {"maskedBodies", idsOf(coverage.maskedBodies)},
                  {"volumes", Json::array()},
                  {"boundaries", Json::array()},
-                 {"bodies", Json::array()}};
-    for (const Coverage::Owner& volume : coverage.volumes) {
-        json["volumes"].push_back({{"name", volume.name}, {"bodies", volume.owns}});
+                 {"bodies", bodiesOf(coverage)}};
+    for (const Volume* volume : coverage.volumes) {
+        json["volumes"].push_back({{"name", volume->fullName()}, {"bodies", idsOf(volume->bodies())}});
     }
-    for (const Coverage::Owner& boundary : coverage.boundaries) {
-        json["boundaries"].push_back(
-            {{"name", boundary.name}, {"volume", boundary.volume}, {"faceSides", boundary.owns}});
-    }
-    for (const Coverage::Body& body : coverage.bodies) {
-        json["bodies"].push_back(toJson(body));
+    for (const Boundary* boundary : coverage.boundaries) {
+        json["boundaries"].push_back({{"name", boundary->fullName()},
+                                      {"volume", boundary->volume()->fullName()},
+                                      {"faceSides", idsOf(boundary->faceUses())}});
     }
     return json;
 }

@@ -1,6 +1,7 @@
 #include "apps/check/RuleFindings.h"
 
 #include "apps/Joined.h"
+#include "apps/check/Listed.h"
 #include "apps/check/Naming.h"
 #include "gtm/Face.h"
 #include "gtm/FaceUse.h"
@@ -8,7 +9,6 @@
 #include "gtm/TopologyMap.h"
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
-#include "physics/Physics.h"
 #include "physics/TypeNames.h"
 #include "physics/Volume.h"
 
@@ -40,7 +40,7 @@ std::string allowedTypes(const std::vector<std::string>& names)
 
 class Finder {
 public:
-    explicit Finder(const Physics& physics) : m_physics(physics) {}
+    explicit Finder(const Listed& setUp) : m_setUp(setUp) {}
 
     std::vector<Finding> find();
 
@@ -57,22 +57,22 @@ private:
     std::set<std::int64_t> zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const;
     const std::unordered_set<const gtm::Face*>& internalFaces(const Volume& volume);
 
-    const Physics& m_physics;
+    const Listed& m_setUp;
     std::vector<Finding> m_findings;
     std::unordered_map<const Volume*, std::unordered_set<const gtm::Face*>> m_internalFaces;
 };
 
 std::vector<Finding> Finder::find()
 {
-    for (const Volume* volume : m_physics.volumes()) {
+    for (const Volume* volume : m_setUp.volumes) {
         findUnsharedMesh(*volume);
     }
-    for (const Boundary* boundary : m_physics.boundaries()) {
+    for (const Boundary* boundary : m_setUp.boundaries) {
         findTypeAgainstVolume(*boundary);
         findInternalTypeOutside(*boundary);
         findUnmatchedTag(*boundary);
     }
-    for (const Interface* interface : m_physics.interfaces()) {
+    for (const Interface* interface : m_setUp.interfaces) {
         findTypeAgainst(*interface, Side::First);
         findTypeAgainst(*interface, Side::Second);
     }
@@ -90,7 +90,7 @@ void Finder::add(FindingKind kind, const R& region, const std::string& rest, Det
 std::set<std::int64_t> Finder::zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const
 {
     std::set<std::int64_t> zones;
-    const gtm::TopologyMap* map = m_physics.locationModel()->solverZoneMap();
+    const gtm::TopologyMap* map = m_setUp.physics.locationModel()->solverZoneMap();
     if (map != nullptr && faceUse != nullptr) {
         for (const gtm::ExternalFaceSide& side : map->externalFaceSides(faceUse)) {
             const std::int64_t zone = side.zoneId;
@@ -205,6 +205,6 @@ const std::unordered_set<const gtm::Face*>& Finder::internalFaces(const Volume& 
 
 } // namespace
 
-std::vector<Finding> findByRules(const Physics& physics) { return Finder(physics).find(); }
+std::vector<Finding> findByRules(const Listed& setUp) { return Finder(setUp).find(); }
 
 } // namespace physics::apps

@@ -1,5 +1,6 @@
 #include "apps/check/StateFindings.h"
 
+#include "apps/check/Listed.h"
 #include "apps/check/Naming.h"
 #include "gtm/Body.h"
 #include "gtm/Face.h"
@@ -9,7 +10,6 @@
 #include "locationmodel/LocationModel.h"
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
-#include "physics/Physics.h"
 #include "physics/TypeNames.h"
 #include "physics/Volume.h"
 #include "support/NearestName.h"
@@ -71,7 +71,7 @@ std::string phraseFor(FindingKind kind)
 
 class Finder {
 public:
-    Finder(const Physics& physics, const gtm::bundled::LocationModel& model) : m_physics(physics), m_model(model) {}
+    Finder(const Listed& setUp, const gtm::bundled::LocationModel& model) : m_setUp(setUp), m_model(model) {}
 
     std::vector<Finding> find();
 
@@ -96,7 +96,7 @@ private:
     const std::vector<std::string>& bodyNames();
     const std::vector<std::string>& surfaceNames();
 
-    const Physics& m_physics;
+    const Listed& m_setUp;
     const gtm::bundled::LocationModel& m_model;
     std::vector<Finding> m_findings;
     std::size_t m_first = 0; ///< where the findings about the present region begin
@@ -107,18 +107,18 @@ private:
 
 std::vector<Finding> Finder::find()
 {
-    for (const std::string& body : idsOf(m_physics.unusedBodies())) {
+    for (const std::string& body : idsOf(m_setUp.physics.unusedBodies())) {
         const Finding::Subject subject{"body", body};
         m_findings.push_back(
             {FindingKind::UnusedBody, subject, nullptr, theSubject(subject) + " is in no volume.", {}});
     }
-    for (const Volume* volume : m_physics.volumes()) {
+    for (const Volume* volume : m_setUp.volumes) {
         look(*volume);
     }
-    for (const Boundary* boundary : m_physics.boundaries()) {
+    for (const Boundary* boundary : m_setUp.boundaries) {
         look(*boundary);
     }
-    for (const Interface* interface : m_physics.interfaces()) {
+    for (const Interface* interface : m_setUp.interfaces) {
         look(*interface);
     }
     return std::move(m_findings);
@@ -245,9 +245,9 @@ const std::vector<std::string>& Finder::surfaceNames()
 
 } // namespace
 
-std::vector<Finding> findByState(const Physics& physics, const gtm::bundled::LocationModel& model)
+std::vector<Finding> findByState(const Listed& setUp, const gtm::bundled::LocationModel& model)
 {
-    return Finder(physics, model).find();
+    return Finder(setUp, model).find();
 }
 
 } // namespace physics::apps

@@ -2,6 +2,7 @@
 #include "apps/Output.h"
 #include "apps/check/CheckReport.h"
 #include "apps/check/CheckViews.h"
+#include "gtm/FaceUse.h"
 #include "physics/Region.h"
 #include "physics/TypeNames.h"
 #include "support/InQuotes.h"
@@ -38,17 +39,16 @@ void write(const CheckReport::Object& object, const Places& places, Output& outp
 void write(const Coverage& coverage, Output& output)
 {
     output.heading("Coverage");
-    output.out() << "  " << counted(coverage.noOfFaceSides, "face side") << " of "
+    output.out() << "  " << counted(coverage.faceSides.size(), "face side") << " of "
                  << counted(coverage.bodies.size(), "body", "bodies") << ": " << coverage.noInOne
                  << " in one boundary, " << coverage.noInSeveral << " in several, " << coverage.noInNoneOutside
                  << " in none, " << coverage.noInNoneInside << " inside volumes in none\n";
-    for (const Coverage::Body& body : coverage.bodies) {
-        for (const Coverage::FaceSide& side : body.faceSides) {
-            if (side.boundaries.size() > 1) {
-                output.out() << "  " << inQuotes(side.id) << " is in " << joined(side.boundaries) << '\n';
-            } else if (side.boundaries.empty() && !side.isInternal) {
-                output.out() << "  " << inQuotes(side.id) << " is in no boundary\n";
-            }
+    for (const Coverage::FaceSide& side : coverage.faceSides) {
+        if (side.noOfOwners > 1) {
+            output.out() << "  " << inQuotes(side.faceUse->id()) << " is in " << joined(coverage.ownersOf(side))
+                         << '\n';
+        } else if (side.noOfOwners == 0 && !side.isInternal) {
+            output.out() << "  " << inQuotes(side.faceUse->id()) << " is in no boundary\n";
         }
     }
     output.out() << '\n';

@@ -75,6 +75,8 @@ std::vector<std::string> Examination::linesOf(const Interface& interface)
 
 bool Examination::isFaulty(const Boundary& boundary)
 {
+    if (boundary.noOfInterfaces() < 2)
+        return !linesOf(boundary).empty();
     const auto [entry, isNew] = m_isFaulty.try_emplace(&boundary);
     if (isNew)
         entry->second = !linesOf(boundary).empty();

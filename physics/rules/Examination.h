@@ -29,7 +29,7 @@ private:
 
     const bool m_ignoreWarnings;
     std::vector<std::unique_ptr<Rule>> m_rules;
-    std::unordered_map<const Boundary*, bool> m_isFaulty; // a boundary may be in very many interfaces
+    std::unordered_map<const Boundary*, bool> m_isFaulty; // of those in several interfaces: it may be very many
 };
 
 } // namespace physics

@@ -22,7 +22,7 @@ ALLOWED = {
     "tests": {"physics objects", "physics readers", "physics vocabulary", "importers", "locationmodel", "gtm", "support",
               "apps", "examples"},
     "benchmarks": {"physics objects", "physics readers", "physics vocabulary", "importers", "locationmodel", "gtm",
-                   "tests"},
+                   "apps", "tests"},
 }
 
 # Which storey of `physics` a file lives in, by its path without extension; whatever is not named is a reader.

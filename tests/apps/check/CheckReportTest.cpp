@@ -1,5 +1,7 @@
 #include "apps/check/CheckReport.h"
 
+#include "gtm/Body.h"
+#include "gtm/FaceUse.h"
 #include "gtm/Interface.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyBuilder.h"
@@ -112,17 +114,15 @@ TEST_F(ChangedSetUp, isCoveredWithNames)
 
     const Coverage coverage = checked().coverage;
 
-    EXPECT_EQ(coverage.noOfFaceSides, 4U);
+    ASSERT_EQ(coverage.faceSides.size(), 4U);
     EXPECT_EQ(coverage.noInOne, 2U);
     EXPECT_EQ(coverage.noInSeveral, 1U);
     EXPECT_EQ(coverage.noInNoneOutside, 1U);
     EXPECT_EQ(coverage.noInNoneInside, 0U);
-    ASSERT_EQ(coverage.bodies.size(), 2U);
-    EXPECT_EQ(coverage.bodies[0].volumes, std::vector<std::string>{"left"});
-    EXPECT_EQ(coverage.bodies[0].faceSides[1].id, "between@left");
-    EXPECT_EQ(coverage.bodies[0].faceSides[1].boundaries, (std::vector<std::string>{"left::contact", "left::in"}));
-    EXPECT_EQ(coverage.bodies[1].faceSides[1].id, "out@right");
-    EXPECT_EQ(coverage.bodies[1].faceSides[1].boundaries, std::vector<std::string>{});
+    EXPECT_EQ(coverage.faceSides[1].faceUse->id(), "between@left");
+    EXPECT_EQ(coverage.ownersOf(coverage.faceSides[1]), (std::vector<std::string>{"left::contact", "left::in"}));
+    EXPECT_EQ(coverage.faceSides[3].faceUse->id(), "out@right");
+    EXPECT_EQ(coverage.ownersOf(coverage.faceSides[3]), std::vector<std::string>{});
 }
 
 TEST_F(ChangedSetUp, leavesMaskedBodiesOutOfItsCoverage)
@@ -131,8 +131,8 @@ TEST_F(ChangedSetUp, leavesMaskedBodiesOutOfItsCoverage)
 
     const Coverage coverage = checked().coverage;
 
-    EXPECT_EQ(coverage.maskedBodies, std::vector<std::string>{"right"});
-    EXPECT_EQ(coverage.noOfFaceSides, 2U);
+    EXPECT_EQ(coverage.maskedBodies, std::vector<const gtm::Body*>{model->bodies()[1]});
+    EXPECT_EQ(coverage.faceSides.size(), 2U);
 }
 
 TEST_F(ChangedSetUp, searchesNearNamesForTheFirstOfVeryManyOnly)
