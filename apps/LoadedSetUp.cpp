@@ -7,10 +7,10 @@ namespace physics::apps {
 namespace {
 
 std::variant<LoadedCase, RestoredSetUp> load(const std::filesystem::path& file, const SetUpOptions& options,
-                                             Output& output)
+                                             Output& output, LoadedCase::Restrictions restrictions)
 {
     if (isCaseFile(file)) {
-        return LoadedCase(file, output);
+        return LoadedCase(file, output, restrictions);
     }
     if (options.geometry().empty()) {
         throw InputError(file.string() + ": a saved text does not name its geometry; give it with --geometry. (The "
@@ -21,8 +21,9 @@ std::variant<LoadedCase, RestoredSetUp> load(const std::filesystem::path& file, 
 
 } // namespace
 
-LoadedSetUp::LoadedSetUp(const std::filesystem::path& file, const SetUpOptions& options, Output& output)
-    : m_loaded(load(file, options, output))
+LoadedSetUp::LoadedSetUp(const std::filesystem::path& file, const SetUpOptions& options, Output& output,
+                         LoadedCase::Restrictions restrictions)
+    : m_loaded(load(file, options, output, restrictions))
 {}
 
 const BuiltCase& LoadedSetUp::built() const
@@ -30,10 +31,15 @@ const BuiltCase& LoadedSetUp::built() const
     return std::visit([](const auto& loaded) -> const BuiltCase& { return loaded.built(); }, m_loaded);
 }
 
+const gtm::bundled::LocationModel& LoadedSetUp::locationModel() const
+{
+    return std::visit(
+        [](const auto& loaded) -> const auto& { return loaded.locationModel(); }, m_loaded);
+}
+
 std::vector<std::string> LoadedSetUp::refusals() const
 {
-    const auto* loaded = std::get_if<LoadedCase>(&m_loaded);
-    return loaded == nullptr ? std::vector<std::string>() : loaded->refusals();
+    return isCase() ? asCase()->refusals() : std::vector<std::string>();
 }
 
 } // namespace physics::apps

@@ -17,11 +17,15 @@ class SetUpOptions;
 class LoadedSetUp {
 public:
     /// Notes about the geometry go to `output`. Throws `InputError`, also when a saved text comes without
-    /// geometry.
-    LoadedSetUp(const std::filesystem::path& file, const SetUpOptions& options, Output& output);
+    /// geometry. `restrictions` is for building: restoring refuses nothing on account of them.
+    LoadedSetUp(const std::filesystem::path& file, const SetUpOptions& options, Output& output,
+                LoadedCase::Restrictions restrictions = LoadedCase::Restrictions::AsInFile);
 
-    bool isCase() const { return std::holds_alternative<LoadedCase>(m_loaded); }
+    /// The case that the set-up was built from; null when it was restored.
+    const LoadedCase* asCase() const { return std::get_if<LoadedCase>(&m_loaded); }
+    bool isCase() const { return asCase() != nullptr; }
     const BuiltCase& built() const;
+    const gtm::bundled::LocationModel& locationModel() const;
 
     /// A line for each thing that the case file asks for and the set-up does not have.
     std::vector<std::string> refusals() const;

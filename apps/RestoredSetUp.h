@@ -18,6 +18,8 @@ public:
     RestoredSetUp(const std::filesystem::path& geometry, std::optional<bool> imprint, const std::filesystem::path& text,
                   Output& output);
 
+    const gtm::bundled::LocationModel& locationModel() const { return *m_geometry.model; }
+
     /// Nothing in it is refused, and its models have no names.
     const BuiltCase& built() const { return m_built; }
 

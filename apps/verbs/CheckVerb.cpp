@@ -1,7 +1,7 @@
 #include "apps/verbs/CheckVerb.h"
 
 #include "apps/InputError.h"
-#include "apps/LoadedCase.h"
+#include "apps/LoadedSetUp.h"
 #include "apps/Output.h"
 #include "apps/check/CheckReport.h"
 #include "apps/check/CheckViews.h"
@@ -12,11 +12,11 @@
 
 namespace physics::apps {
 
-std::string CheckVerb::summary() const { return "Tell everything that is wrong with the set-up of a case"; }
+std::string CheckVerb::summary() const { return "Tell everything that is wrong with a set-up"; }
 
 void CheckVerb::addOptions(CLI::App& app)
 {
-    CLI::Option* file = app.add_option("case", m_file, "A case file (docs/case-file.md)");
+    CLI::Option* file = app.add_option("setup", m_file, setUpHelp);
     app.add_option("--format", m_format, "text: to read; json and sarif: for tools")
         ->check(CLI::IsMember({"text", "json", "sarif"}))
         ->capture_default_str();
@@ -26,6 +26,7 @@ void CheckVerb::addOptions(CLI::App& app)
         ->capture_default_str();
     app.add_option("--explain", m_explain, "Explain a kind of finding, for example PS004 (docs/findings.md)")
         ->excludes(file);
+    m_options.addTo(app);
 }
 
 ExitCode CheckVerb::run(Output& output)
@@ -35,13 +36,16 @@ ExitCode CheckVerb::run(Output& output)
         return ExitCode::Fine;
     }
     if (m_file.empty()) {
-        throw InputError("physics-case: check needs a case file, or --explain; try \"physics-case check --help\".");
+        throw InputError("physics-case: check needs a set-up, or --explain; try \"physics-case check --help\".");
     }
-    const LoadedCase loaded(m_file, output, LoadedCase::Restrictions::Off);
+    m_options.refuseWithout({m_file});
+    const LoadedSetUp loaded(m_file, m_options, output, LoadedCase::Restrictions::Off);
     CheckReport report =
         check(*loaded.built().physics, loaded.locationModel(), loaded.built().refusals, m_warnings == "ignore");
     report.file = m_file;
-    report.places = Places(loaded.caseFile(), loaded.source());
+    if (const LoadedCase* fromCase = loaded.asCase()) {
+        report.places = Places(fromCase->caseFile(), fromCase->source());
+    }
     if (m_format == "json") {
         output.out() << toJson(report);
     } else if (m_format == "sarif") {

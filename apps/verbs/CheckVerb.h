@@ -1,11 +1,12 @@
 #pragma once
 
+#include "apps/SetUpOptions.h"
 #include "apps/Verb.h"
 
 namespace physics::apps {
 
-/// Builds the set-up of a case without restrictions and tells everything that is wrong with it, or explains
-/// one kind of finding.
+/// Builds a case without restrictions, or restores a saved text, and tells everything that is wrong with the
+/// set-up; or explains one kind of finding.
 class CheckVerb final : public Verb {
 public:
     std::string name() const override { return "check"; }
@@ -18,6 +19,7 @@ private:
     std::string m_format = "text";
     std::string m_warnings = "report";
     std::string m_explain;
+    SetUpOptions m_options;
 };
 
 } // namespace physics::apps

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,19 @@ ToolRun checkBroken(const std::string& name, const std::vector<std::string>& opt
     std::vector<std::string> arguments = {"check", name + ".json"};
     arguments.insert(arguments.end(), options.begin(), options.end());
     return ToolRun(arguments);
+}
+
+/// A check without the lines that tell where the case file names an object.
+std::string withoutPlaces(const std::string& checked)
+{
+    std::istringstream stream(checked);
+    std::string lines;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.find("at line ") == std::string::npos) {
+            lines += line + "\n";
+        }
+    }
+    return lines;
 }
 
 TEST(CheckVerb, aSoundCaseIsFine)
@@ -65,10 +79,30 @@ TEST(CheckVerb, theJsonHoldsEverything)
     EXPECT_TRUE(golden::matches(checkBroken("many-mistakes", {"--format=json"}).out, "check-many-mistakes.json"));
 }
 
+TEST(CheckVerb, aSavedTextIsCheckedLikeItsCaseButHasNoPlaces)
+{
+    const WorkingFolder folder(sourceFile("tests/data/broken-cases"));
+    const TemporaryFile text("broken.setup", "");
+    ASSERT_EQ(ToolRun({"save", "tags-without-interface.json", "-o", text.path()}).code, 0);
+
+    const ToolRun ofText({"check", text.path(), "--geometry", "topology.json"});
+    const ToolRun ofCase({"check", "tags-without-interface.json"});
+
+    EXPECT_EQ(ofText.out, withoutPlaces(ofCase.out));
+    EXPECT_EQ(ofText.err, "");
+    EXPECT_EQ(ofText.code, ofCase.code);
+}
+
+TEST(CheckVerb, aSavedTextNeedsItsGeometryAndACaseDoesNot)
+{
+    EXPECT_EQ(ToolRun({"check", "a.setup"}).code, 2);
+    EXPECT_EQ(ToolRun({"check", "a.json", "--geometry", "b.json"}).code, 2);
+}
+
 TEST(CheckVerb, wrongUsageIsToldAsAMistake)
 {
     const ToolRun nothing({"check"});
-    EXPECT_EQ(nothing.err, "physics-case: check needs a case file, or --explain; try \"physics-case check --help\".\n");
+    EXPECT_EQ(nothing.err, "physics-case: check needs a set-up, or --explain; try \"physics-case check --help\".\n");
     EXPECT_EQ(nothing.code, 2);
     EXPECT_EQ(checkBroken("many-mistakes", {"--format=xml"}).code, 2);
     EXPECT_EQ(checkBroken("many-mistakes", {"--warnings=fatal"}).code, 2);
