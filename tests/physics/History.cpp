@@ -453,6 +453,12 @@ void History::createDefaultBoundary(const Step& step)
     const Id owner = pick(m_reference.volumes, step.d);
     if (owner == 0)
         return;
+    // Two default volumes share one default boundary of the location model: when one of theirs ends, the
+    // other would be left on it switched off, where location models may differ.
+    const Id surface = m_reference.defaultSurfaces.at(m_reference.volumes.at(owner).interior);
+    for (const auto& [id, other] : m_reference.boundaries)
+        if (other.surface == surface && other.volume != owner)
+            return;
     const BoundaryType type = m_physics->defaultBoundaryType(m_reference.volumes.at(owner).type);
     const Id expected = m_reference.createDefaultBoundary(owner, nameAt(step.a), type);
     agree("the new default boundary", idOf(volume(owner)->createDefaultBoundary(nameAt(step.a))), expected);
