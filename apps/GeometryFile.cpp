@@ -9,6 +9,10 @@
 #include "importers/cad/CadReader.h"
 #endif
 
+#ifdef PHYSICS_HAS_CGNS
+#include "importers/cgns/CgnsReader.h"
+#endif
+
 #include <algorithm>
 #include <utility>
 
@@ -35,6 +39,23 @@ GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> 
     static_cast<void>(imprint);
     throw InputError(file.string() + ": this program was built without the reader of geometry files; make a topology "
                                      "file of it elsewhere.");
+#endif
+}
+
+GeometryFile readCgnsFile(const std::filesystem::path& file, std::optional<bool> imprint)
+{
+    if (imprint) {
+        throw InputError(file.string() + ": a mesh file has no shapes that could be imprinted; leave that choice out.");
+    }
+#ifdef PHYSICS_HAS_CGNS
+    gtm::bundled::CgnsResult result = gtm::bundled::readCgns(file);
+    GeometryFile geometry;
+    geometry.model = std::move(result.model);
+    geometry.notes = std::move(result.notes);
+    return geometry;
+#else
+    throw InputError(file.string() + ": this program was built without the reader of CGNS files; make a topology file "
+                                     "of it elsewhere.");
 #endif
 }
 
@@ -66,12 +87,15 @@ GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool>
         if (extension == ".step" || extension == ".stp" || extension == ".brep" || extension == ".brp") {
             return readCadFile(file, imprint);
         }
+        if (extension == ".cgns") {
+            return readCgnsFile(file, imprint);
+        }
     } catch (const gtm::bundled::TopologyError& error) {
         throw InputError(error.what());
     }
     throw InputError(file.string() +
                      ": cannot tell the kind of this file; its name should end in .json for a topology file, or in "
-                     ".step, .stp, .brep or .brp for a geometry file.");
+                     ".step, .stp, .brep, .brp or .cgns for a geometry file.");
 }
 
 } // namespace physics::apps

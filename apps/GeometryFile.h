@@ -23,8 +23,8 @@ struct GeometryFile {
     ~GeometryFile();
 };
 
-/// Reads a topology file (.json) or a geometry file (.step, .stp, .brep, .brp; if this program was built
-/// with that reader). `imprint` says whether touching bodies of a geometry file are to share faces; unset
+/// Reads a topology file (.json) or a geometry file (.step, .stp, .brep, .brp, .cgns; if this program was
+/// built with that reader). `imprint` says whether touching bodies of a geometry file are to share faces; unset
 /// leaves it to the reader. Throws `InputError`.
 GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool> imprint);
 

@@ -20,3 +20,6 @@ physics_pkg_config(LocationModel "Bundled location model of the physics library"
 if(TARGET CadImporter)
   physics_pkg_config(CadImporter "Reader of BREP and STEP files for the bundled location model" "LocationModel")
 endif()
+if(TARGET CgnsImporter)
+  physics_pkg_config(CgnsImporter "Reader of CGNS files for the bundled location model" "LocationModel")
+endif()

@@ -16,7 +16,8 @@ std::string TopologyVerb::summary() const { return "List the parts, bodies, face
 
 void TopologyVerb::addOptions(CLI::App& app)
 {
-    app.add_option("file", m_file, "A topology file (.json) or a geometry file (.step, .stp, .brep, .brp)")->required();
+    app.add_option("file", m_file, "A topology file (.json) or a geometry file (.step, .stp, .brep, .brp, .cgns)")
+        ->required();
     app.add_option("--format", m_format, "text: tables to read; json: a topology file")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();

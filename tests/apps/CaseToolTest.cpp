@@ -92,7 +92,7 @@ TEST(CaseTool, aFileOfNoKnownKindIsRefused)
     const ToolRun run({"topology", "mesh.txt"});
 
     EXPECT_EQ(run.err, "mesh.txt: cannot tell the kind of this file; its name should end in .json for a topology file, "
-                       "or in .step, .stp, .brep or .brp for a geometry file.\n");
+                       "or in .step, .stp, .brep, .brp or .cgns for a geometry file.\n");
     EXPECT_EQ(run.code, 2);
 }
 
