@@ -180,7 +180,8 @@ std::vector<double> CgnsNode::reals() const
 
 std::string CgnsNode::dataType() const
 {
-    std::array<char, CGIO_MAX_DATATYPE_LENGTH + 1> type{};
+    // A damaged ADF file may have a longer one than there is.
+    std::array<char, CGIO_MAX_LABEL_LENGTH + 1> type{};
     check(cgio_get_data_type(m_file, m_id, type.data()), "type of data");
     return type.data();
 }
