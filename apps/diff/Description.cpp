@@ -72,7 +72,7 @@ public:
     std::vector<Description> describe();
 
 private:
-    /// How the comparison and people call an object; both empty for none.
+    /// How the comparison and people call an object. The key is empty for none.
     struct Called {
         std::string key;
         std::string text;
@@ -213,6 +213,7 @@ void Describer::addSetUp()
     for (const gtm::Body* body : m_physics.maskedBodies()) {
         masked.push_back(inQuotes(body->id()));
     }
+    std::sort(masked.begin(), masked.end());
     m_result.push_back({"set-up",
                         "set-up",
                         "",
