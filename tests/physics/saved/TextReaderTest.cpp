@@ -117,7 +117,8 @@ TEST(TextReader, refusesACountThatTheTextCannotHold)
 {
     const std::string expected = "1: expected things (a count that the rest of the text can hold), found ";
     for (const std::string count : {"-1", "3", "2147483647"}) {
-        TextReader reader(count + " 1 2"); // room for two
+        const std::string text = count + " 1 2"; // room for two
+        TextReader reader(text);
         std::size_t value = 5;
         reader.count("things", value);
         EXPECT_EQ(value, 0U) << count;
