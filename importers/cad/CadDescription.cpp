@@ -1,6 +1,6 @@
 #include "importers/cad/CadDescription.h"
 
-#include "importers/cad/CadNames.h"
+#include "importers/RegionIds.h"
 #include "locationmodel/LocationModel.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace {
 using Face = CadDescription::Face;
 using FaceUse = CadDescription::FaceUse;
 
-bool isNamed(const std::string& name) { return !CadNames::asId(name).empty(); }
+bool isNamed(const std::string& name) { return !RegionIds::asId(name).empty(); }
 
 /// The use that gives the face its id: the first with a name, else the first.
 const FaceUse& namingUse(const Face& face)
@@ -22,14 +22,14 @@ const FaceUse& namingUse(const Face& face)
     return named == face.uses.end() ? face.uses.front() : *named;
 }
 
-std::string takeId(std::string_view kind, const std::string& name, const std::string& unnamed, CadNames& names)
+std::string takeId(std::string_view kind, const std::string& name, const std::string& unnamed, RegionIds& names)
 {
-    return isNamed(name) ? names.take(kind, name, CadNames::asId(name)) : names.take(kind, {}, unnamed);
+    return isNamed(name) ? names.take(kind, name, RegionIds::asId(name)) : names.take(kind, {}, unnamed);
 }
 
-std::string takeFaceId(const FaceUse& use, const std::string& body, CadNames& names)
+std::string takeFaceId(const FaceUse& use, const std::string& body, RegionIds& names)
 {
-    return isNamed(use.name) ? names.take("Face", body + "/" + use.name, body + "/" + CadNames::asId(use.name))
+    return isNamed(use.name) ? names.take("Face", body + "/" + use.name, body + "/" + RegionIds::asId(use.name))
                              : names.take("Face", {}, body + "/face-" + std::to_string(use.number));
 }
 
@@ -79,7 +79,7 @@ void addFace(const Face& face, const std::string& id, const CadIds& ids, Topolog
 CadIds giveIds(const CadDescription& description)
 {
     CadIds ids;
-    CadNames names(ids.notes);
+    RegionIds names(ids.notes);
     for (const CadDescription::Body& body : description.bodies)
         ids.bodies.push_back(takeId("Body", body.name, "body-" + std::to_string(body.number), names));
     for (std::size_t i = 0; i < description.parts.size(); ++i)

@@ -1,6 +1,6 @@
 #include "importers/cad/StepFile.h"
 
-#include "importers/cad/CadNames.h"
+#include "importers/RegionIds.h"
 
 #include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
@@ -124,7 +124,7 @@ private:
 
     void countOtherName(const std::string& name, const Product& product, const char* one, const char* many)
     {
-        if (name != product.name && !CadNames::asId(name).empty())
+        if (name != product.name && !RegionIds::asId(name).empty())
             m_otherNames.add(one, many, 1);
     }
 
@@ -133,7 +133,7 @@ private:
         countLoose(shape, m_shapes.loose);
         const std::vector<TopoDS_Shape> solids = subShapes(shape, TopAbs_SOLID);
         Product* owner = solids.size() > 1 ? &product : assembly;
-        const bool isOneSolid = solids.size() == 1 && !CadNames::asId(product.name).empty();
+        const bool isOneSolid = solids.size() == 1 && !RegionIds::asId(product.name).empty();
         for (const TopoDS_Shape& shapeOfSolid : solids) {
             CadSolid& solid = addSolid(shapeOfSolid, m_shapes);
             solid.name = isOneSolid ? product.name : m_names.of(shapeOfSolid);

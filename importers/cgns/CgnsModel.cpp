@@ -1,6 +1,6 @@
 #include "importers/cgns/CgnsModel.h"
 
-#include "importers/cad/CadNames.h"
+#include "importers/RegionIds.h"
 #include "importers/cgns/Coverage.h"
 #include "importers/cgns/Seams.h"
 #include "importers/cgns/ZoneNumbers.h"
@@ -59,7 +59,7 @@ private:
     const CgnsOptions& m_options;
     Seams m_seams;
     CgnsResult m_result;
-    CadNames m_names;
+    RegionIds m_names;
     ZoneNumbers m_numbers;
     TopologyBuilder m_builder;
     std::vector<ZoneState> m_zones;
@@ -70,7 +70,7 @@ ModelMaker::ModelMaker(const CgnsDescription& description, const CgnsOptions& op
     : m_description(description),
       m_options(options),
       m_seams(description),
-      m_result{nullptr, {}, {}, description.notes},
+      m_result{nullptr, {}, {}, {}, {}, description.notes},
       m_names(m_result.notes)
 {}
 
@@ -87,6 +87,7 @@ CgnsResult ModelMaker::make()
     for (std::size_t zone = 0; zone < m_zones.size(); ++zone) {
         addUncovered(m_description.zones[zone], m_zones[zone]);
     }
+    m_result.renamed.insert(m_names.renamed().begin(), m_names.renamed().end());
     m_result.model = m_builder.build();
     return std::move(m_result);
 }
@@ -124,10 +125,10 @@ void ModelMaker::reserveNumber(std::optional<std::int32_t> ordinal, const std::s
 
 void ModelMaker::nameZones()
 {
-    CadNames zoneNames(m_result.notes);
+    RegionIds zoneNames(m_result.notes);
     for (std::size_t i = 0; i < m_description.zones.size(); ++i) {
         const Zone& zone = m_description.zones[i];
-        const std::string name = CadNames::asId(zone.name);
+        const std::string name = RegionIds::asId(zone.name);
         ZoneState state;
         state.id = zoneNames.take("Zone", zone.name, name.empty() ? "zone-" + std::to_string(i + 1) : name);
         state.surface = makeSurface(zone);
@@ -151,7 +152,7 @@ void ModelMaker::addBodies()
     std::map<std::string, std::size_t> families;
     for (std::size_t i = 0; i < m_zones.size(); ++i) {
         const Zone& zone = m_description.zones[i];
-        const std::string family = m_options.bodiesAreFamilies ? CadNames::asId(zone.family) : std::string();
+        const std::string family = m_options.bodiesAreFamilies ? RegionIds::asId(zone.family) : std::string();
         const auto known = family.empty() ? families.end() : families.find(zone.family);
         std::size_t body = bodies.size();
         if (known != families.end()) {
@@ -162,10 +163,13 @@ void ModelMaker::addBodies()
                               {}});
             if (!family.empty()) {
                 families.emplace(zone.family, body);
+            } else if (bodies[body].id != zone.name) {
+                m_result.renamed.emplace(bodies[body].id, zone.name);
             }
         }
         bodies[body].numbers.push_back(m_numbers.take(zone.ordinal));
         m_zones[i].body = bodies[body].id;
+        m_result.zones.push_back({m_zones[i].body, zone.name, zone.family});
     }
     for (const Body& body : bodies) {
         m_builder.addBody(body.id, {}, body.numbers);
@@ -204,7 +208,7 @@ void ModelMaker::addCondition(PatchPlace place, const std::string& id)
              std::to_string(faces.surface.size()) + " on its surface; it is taken to lie on the surface.");
     }
     addFace(id, patch.ordinal, place.zone, isInside ? std::optional(place.zone) : std::nullopt);
-    m_result.conditions.push_back({id, patch.type, patch.family});
+    m_result.conditions.push_back({id, patch.type, patch.family, patch.name});
 }
 
 void ModelMaker::addConnectivity(PatchPlace place, const std::string& id)
@@ -326,7 +330,7 @@ std::string ModelMaker::takeFaceId(PatchPlace place)
 {
     const std::string& zone = m_zones[place.zone].id;
     const std::string& said = patchAt(place).name;
-    const std::string name = CadNames::asId(said);
+    const std::string name = RegionIds::asId(said);
     return m_names.take("Face", zone + "/" + said,
                         zone + "/" + (name.empty() ? "face-" + std::to_string(place.patch + 1) : name));
 }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,13 @@ struct CgnsOptions {
     bool bodiesAreFamilies = false;
 };
 
+/// What the file says about a zone.
+struct CgnsZone {
+    std::string body;   ///< id of the body that it is, or is a piece of
+    std::string name;   ///< as in the file
+    std::string family; ///< as in the file; empty when it names none
+};
+
 /// What the file says about the face of a boundary condition.
 struct CgnsCondition {
     std::string face; ///< id of the face
@@ -33,7 +41,8 @@ struct CgnsCondition {
     /// "BCWallViscous"; of a condition that leaves it to its family, what the family says, or
     /// "FamilySpecified" when the family says nothing.
     std::string type;
-    std::string family; ///< empty when the file names none
+    std::string family; ///< as in the file; empty when it names none
+    std::string name;   ///< as in the file, without the zone
 };
 
 /// Two faces that the file declares periodic. The first maps onto the second by a rotation about
@@ -57,8 +66,13 @@ struct CgnsResult {
     /// Never null. Bodies and faces are in the order of the file, the uncovered faces last.
     std::unique_ptr<LocationModel> model;
 
+    std::vector<CgnsZone> zones; ///< in the order of the file
     std::vector<CgnsCondition> conditions;
     std::vector<CgnsPeriodic> periodics;
+
+    /// The id of each body and face that is not called as in the file, with its name there; that of a face
+    /// follows the id of its zone: "ZONE/NAME".
+    std::map<std::string, std::string> renamed;
 
     /// What the file has and the model has not, and everything that was changed or doubtful; one
     /// sentence each, in the same order on every run.

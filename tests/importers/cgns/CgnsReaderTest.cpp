@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <ostream>
 #include <string>
 
@@ -402,6 +403,34 @@ TEST(CgnsReader, namesThatCannotBeIdsAreMappedByOneRule)
     EXPECT_EQ(result.notes.at(0), "Face \"" + longName + "/wall, hot\" is called \"" + longName +
                                       "/wall_ hot\" here, because an id has no comma, no control character and no "
                                       "blank at its ends.");
+    EXPECT_EQ(result.renamed,
+              (std::map<std::string, std::string>{{longName + "/wall_ hot", longName + "/wall, hot"},
+                                                  {longName + "/wall_ hot-2", longName + "/wall_ hot"}}));
+    EXPECT_EQ(result.conditions.at(1).name, "wall_ hot");
+}
+
+TEST(CgnsReader, zonesTellTheirBodyTheirNameAndTheirFamily)
+{
+    CgnsFileMaker maker;
+    maker.addText(maker.addZone("a,b"), "FamilyName", "FamilyName_t", "Water");
+    maker.addText(maker.addZone("c"), "FamilyName", "FamilyName_t", "Water");
+    maker.addZone("d,e");
+    const std::filesystem::path& file = maker.finish();
+    const auto zonesOf = [](const CgnsResult& result) {
+        Strings zones;
+        for (const gtm::bundled::CgnsZone& zone : result.zones) {
+            zones.push_back(zone.body + ": " + zone.name + " of " + zone.family);
+        }
+        return zones;
+    };
+
+    const CgnsResult zones = readCgns(file);
+    const CgnsResult families = readCgns(file, {true});
+
+    EXPECT_EQ(zonesOf(zones), (Strings{"a_b: a,b of Water", "c: c of Water", "d_e: d,e of "}));
+    EXPECT_EQ(zones.renamed, (std::map<std::string, std::string>{{"a_b", "a,b"}, {"d_e", "d,e"}}));
+    EXPECT_EQ(zonesOf(families), (Strings{"Water: a,b of Water", "Water: c of Water", "d_e: d,e of "}));
+    EXPECT_EQ(families.renamed, (std::map<std::string, std::string>{{"d_e", "d,e"}}));
 }
 
 } // namespace

@@ -1,23 +1,18 @@
-#include "importers/cad/CadNames.h"
+#include "importers/RegionIds.h"
+
+#include "support/InQuotes.h"
 
 namespace gtm::bundled {
+
+using support::inQuotes;
 
 namespace {
 
 bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }
 
-/// "A,\nb" -> "A,?b": a message stays on its line.
-std::string onOneLine(std::string text)
-{
-    for (char& c : text)
-        if (isControl(c))
-            c = '?';
-    return text;
-}
-
 } // namespace
 
-std::string CadNames::asId(std::string_view name)
+std::string RegionIds::asId(std::string_view name)
 {
     constexpr std::string_view blanks = " \t\r\n\v\f";
     const std::size_t begin = name.find_first_not_of(blanks);
@@ -32,17 +27,20 @@ std::string CadNames::asId(std::string_view name)
     return id;
 }
 
-std::string CadNames::take(std::string_view kind, const std::string& said, const std::string& wanted)
+std::string RegionIds::take(std::string_view kind, const std::string& said, const std::string& wanted)
 {
     std::string id = firstFree(wanted);
-    if (!said.empty() && id != said)
-        m_notes.push_back(std::string(kind) + " \"" + onOneLine(said) + "\" is called \"" + id + "\" here, because " +
-                          (id == wanted ? "an id has no comma, no control character and no blank at its ends."
-                                        : "\"" + wanted + "\" is taken."));
+    if (said.empty() || id == said) {
+        return id;
+    }
+    m_renamed.emplace(id, said);
+    m_notes.push_back(std::string(kind) + " " + inQuotes(said) + " is called " + inQuotes(id) + " here, because " +
+                      (id == wanted ? "an id has no comma, no control character and no blank at its ends."
+                                    : inQuotes(wanted) + " is taken."));
     return id;
 }
 
-std::string CadNames::firstFree(const std::string& id)
+std::string RegionIds::firstFree(const std::string& id)
 {
     const auto [entry, free] = m_taken.emplace(id, 2);
     if (free)
