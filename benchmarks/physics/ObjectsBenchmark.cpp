@@ -1,7 +1,10 @@
 // Creating, listing, moving and ending the objects of a set-up, in the shapes that a careless index would
 // make slow. On the scripted location model, whose entities lie nowhere and cost little. The argument is the
-// number of objects; `perObject` should grow no faster than its logarithm.
+// number of objects; `perObject` should grow no faster than its logarithm. Each is measured twice: as the
+// preparation left the processor's caches, and, named "cold", with other things in them, which is what to
+// compare over sizes.
 
+#include "benchmarks/Caches.h"
 #include "physics/Boundary.h"
 #include "physics/BoundaryPatch.h"
 #include "physics/Interface.h"
@@ -71,14 +74,17 @@ struct SetUp {
 
 using Change = void (*)(SetUp& setUp, std::int64_t size);
 
-/// Measures `act` on what `prepare` made.
-void measure(const std::string& name, Change prepare, Change act)
+enum class Caches { AsPrepared, Cold };
+
+void measure(const std::string& name, Change prepare, Change act, Caches caches)
 {
-    const auto run = [prepare, act](benchmark::State& state) {
+    const auto run = [prepare, act, caches](benchmark::State& state) {
         for (auto _ : state) {
             state.PauseTiming();
             auto setUp = std::make_unique<SetUp>();
             prepare(*setUp, state.range(0));
+            if (caches == Caches::Cold)
+                benchmarks::fillCaches();
             state.ResumeTiming();
             act(*setUp, state.range(0));
             state.PauseTiming();
@@ -93,6 +99,13 @@ void measure(const std::string& name, Change prepare, Change act)
         ->RangeMultiplier(10)
         ->Range(1000, 100000)
         ->Unit(benchmark::kMillisecond);
+}
+
+/// Measures `act` on what `prepare` made.
+void measure(const std::string& name, Change prepare, Change act)
+{
+    measure(name, prepare, act, Caches::AsPrepared);
+    measure(name + "/cold", prepare, act, Caches::Cold);
 }
 
 // ---- What is made before the measurement

@@ -1,9 +1,9 @@
 // Checking whole set-ups on the bundled location model. `boundaries` is the size; times are for the whole
-// set-up, and `perBoundary` should hardly grow with the size. A set-up is checked once in a run and not over and
-// over, so each measurement begins with other things in the processor's caches; small set-ups would else be
-// measured in the cache and large ones in memory, and the comparison would say nothing of the work.
+// set-up, and `perBoundary` should hardly grow with the size. Each measurement begins with other things in the
+// processor's caches.
 
 #include "apps/check/CheckReport.h"
+#include "benchmarks/Caches.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyBuilder.h"
 #include "physics/Boundary.h"
@@ -82,15 +82,11 @@ SetUp manyVolumesScattered(std::int64_t size) { return manyVolumes(size, true); 
 SetUp oneVolumeSound(std::int64_t size) { return oneVolume(size, false); }
 SetUp oneVolumeFaulty(std::int64_t size) { return oneVolume(size, true); }
 
-/// Fills the caches with something else.
+/// See `benchmarks::fillCaches`.
 void coolDown(benchmark::State& state)
 {
-    static std::vector<char> other(128U << 20U);
     state.PauseTiming();
-    for (std::size_t i = 0; i < other.size(); i += 64) {
-        ++other[i];
-    }
-    benchmark::ClobberMemory();
+    benchmarks::fillCaches();
     state.ResumeTiming();
 }
 
