@@ -64,20 +64,48 @@ ZoneSurface::CellFaces BlockSurface::facesInRange(const Selection& selection, co
         low[axis] = std::min(selection.values[axis], selection.values[axis + 3]);
         high[axis] = std::max(selection.values[axis], selection.values[axis + 3]);
     }
-    const bool ofVertices = selection.location == Selection::Location::Vertex;
     const std::optional<std::size_t> axis = axisAcross(selection, low, high);
-    checkInside(low, high, ofVertices ? std::nullopt : axis, place);
+    checkInside(low, high, lastOf(selection.location, axis), place);
+    if (selection.location == Selection::Location::Cell) {
+        return facesOfLayer(low, high);
+    }
     if (!axis) {
         return {{}, 0, false};
     }
-    for (std::size_t i = 0; i < 3; ++i) {
-        high[i] -= ofVertices && i != *axis ? 1 : 0;
+    for (std::size_t i = 0; selection.location == Selection::Location::Vertex && i < 3; ++i) {
+        high[i] -= i != *axis ? 1 : 0;
     }
+    return facesInBox(*axis, low, high);
+}
+
+/// Cells stand for their cell faces at the surface when they are one layer along one side, and only there.
+ZoneSurface::CellFaces BlockSurface::facesOfLayer(Index low, Index high) const
+{
+    std::optional<std::size_t> found;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const std::int64_t last = m_vertices[axis] - 1;
+        if (low[axis] == high[axis] && (low[axis] == 1 || low[axis] == last)) {
+            if (found || last == 1) {
+                return {{}, 0, false};
+            }
+            found = axis;
+        }
+    }
+    if (!found) {
+        return {{}, 0, false};
+    }
+    low[*found] += low[*found] == 1 ? 0 : 1;
+    high[*found] = low[*found];
+    return facesInBox(*found, low, high);
+}
+
+ZoneSurface::CellFaces BlockSurface::facesInBox(std::size_t axis, const Index& low, const Index& high) const
+{
     CellFaces faces;
     for (Index face = low; face[2] <= high[2]; ++face[2]) {
         for (face[1] = low[1]; face[1] <= high[1]; ++face[1]) {
             for (face[0] = low[0]; face[0] <= high[0]; ++face[0]) {
-                add(*axis, face, faces);
+                add(axis, face, faces);
             }
         }
     }
@@ -97,8 +125,9 @@ ZoneSurface::CellFaces BlockSurface::facesInList(const Selection& selection, con
     const bool ofVertices = selection.location == Selection::Location::Vertex;
     CellFaces faces;
     for (const Index& entry : entries) {
-        const std::optional<std::size_t> axis = ofVertices ? std::nullopt : axisAcross(selection, entry, entry);
-        checkInside(entry, entry, axis, place);
+        const bool ofFaces = !ofVertices && selection.location != Selection::Location::Cell;
+        const std::optional<std::size_t> axis = ofFaces ? axisAcross(selection, entry, entry) : std::nullopt;
+        checkInside(entry, entry, lastOf(selection.location, axis), place);
         if (axis) {
             add(*axis, entry, faces);
         } else if (!ofVertices) {
@@ -154,12 +183,22 @@ std::optional<std::size_t> BlockSurface::axisAcross(const Selection& selection, 
     return found;
 }
 
-void BlockSurface::checkInside(Index low, Index high, std::optional<std::size_t> cellsButAlong,
-                               const std::string& place) const
+/// The greatest index of what there is at a location: one less than vertices where cells lie side by side.
+BlockSurface::Index BlockSurface::lastOf(Selection::Location location, std::optional<std::size_t> axis) const
+{
+    Index last = m_vertices;
+    const bool ofCells = location == Selection::Location::Cell;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const bool ofFaces = location != Selection::Location::Vertex && axis && *axis != i;
+        last[i] -= ofCells || ofFaces ? 1 : 0;
+    }
+    return last;
+}
+
+void BlockSurface::checkInside(const Index& low, const Index& high, const Index& last, const std::string& place) const
 {
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        const std::int64_t last = m_vertices[axis] - (cellsButAlong && *cellsButAlong != axis ? 1 : 0);
-        if (low[axis] < 1 || high[axis] > last) {
+        if (low[axis] < 1 || high[axis] > last[axis]) {
             throw CgnsError(place + " reaches from " + textOf(low) + " to " + textOf(high) + ", outside the zone of " +
                             textOf(m_vertices) + " vertices; export the file again.");
         }

@@ -20,10 +20,13 @@ private:
     using Index = std::array<std::int64_t, 3>;
 
     CellFaces facesInRange(const CgnsDescription::Selection& selection, const std::string& place) const;
+    CellFaces facesOfLayer(Index low, Index high) const;
+    CellFaces facesInBox(std::size_t axis, const Index& low, const Index& high) const;
     CellFaces facesInList(const CgnsDescription::Selection& selection, const std::string& place) const;
     CellFaces facesOfVertices(const std::vector<Index>& vertices) const;
     std::optional<std::size_t> axisAcross(const CgnsDescription::Selection& selection, Index low, Index high) const;
-    void checkInside(Index low, Index high, std::optional<std::size_t> cellsButAlong, const std::string& place) const;
+    Index lastOf(CgnsDescription::Selection::Location location, std::optional<std::size_t> axis) const;
+    void checkInside(const Index& low, const Index& high, const Index& last, const std::string& place) const;
     void add(std::size_t axis, const Index& face, CellFaces& faces) const;
 
     Index m_vertices;

@@ -11,9 +11,9 @@ namespace gtm::bundled {
 
 /// What a CGNS file says, in plain values. Indices are as in the file, from 1; names may be unfit as ids.
 struct CgnsDescription {
-    /// A choice of vertices or faces of a zone.
+    /// A choice of vertices, faces or cells of a zone.
     struct Selection {
-        enum class Location { Vertex, Face, IFace, JFace, KFace, Other };
+        enum class Location { Vertex, Face, IFace, JFace, KFace, Cell, Other };
 
         Location location = Location::Vertex;
 
@@ -52,6 +52,13 @@ struct CgnsDescription {
         std::int64_t first = 0; ///< number of its first element
         std::int64_t last = 0;
         std::vector<std::int64_t> connectivity;
+
+        /// Where in `connectivity` each element begins, and the last ends; empty where the file leaves it out.
+        std::vector<std::int64_t> offsets;
+
+        /// Of faces, the numbers of the cells on the one side of each, then those on the other; 0 is none.
+        /// Empty where the file leaves it out.
+        std::vector<std::int64_t> parents;
     };
 
     struct Zone {

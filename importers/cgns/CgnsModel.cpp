@@ -5,6 +5,7 @@
 #include "importers/cgns/Seams.h"
 #include "importers/cgns/ZoneNumbers.h"
 #include "importers/cgns/ZoneSurface.h"
+#include "support/InQuotes.h"
 
 #include <map>
 #include <optional>
@@ -14,6 +15,7 @@ namespace gtm::bundled {
 
 namespace {
 
+using support::inQuotes;
 using Patch = CgnsDescription::Patch;
 using Selection = CgnsDescription::Selection;
 using Zone = CgnsDescription::Zone;
@@ -98,7 +100,7 @@ void ModelMaker::reserveNumbers()
     std::map<std::int32_t, std::string> patches;
     for (std::size_t i = 0; i < m_description.zones.size(); ++i) {
         const Zone& zone = m_description.zones[i];
-        reserveNumber(zone.ordinal, "Zone \"" + zone.name + "\"", zones);
+        reserveNumber(zone.ordinal, "Zone " + inQuotes(zone.name), zones);
         for (std::size_t j = 0; j < zone.patches.size(); ++j) {
             const std::optional<PatchPlace> answer = m_seams.answerTo({i, j});
             const std::optional<std::int32_t> ordinal = zone.patches[j].ordinal;
@@ -131,12 +133,12 @@ void ModelMaker::nameZones()
         const std::string name = RegionIds::asId(zone.name);
         ZoneState state;
         state.id = zoneNames.take("Zone", zone.name, name.empty() ? "zone-" + std::to_string(i + 1) : name);
-        state.surface = makeSurface(zone);
+        std::string obstacle;
+        state.surface = makeSurface(zone, obstacle);
         if (state.surface) {
             state.coverage.emplace(state.surface->size());
         } else {
-            note("Zone \"" + zone.name +
-                 "\" has polyhedra, of which cell faces are not worked out; its coverage is not known.");
+            note("Zone " + inQuotes(zone.name) + " " + obstacle + "; its coverage is not known.");
         }
         m_zones.push_back(std::move(state));
     }
@@ -242,8 +244,8 @@ void ModelMaker::addPeriodic(PatchPlace place, PatchPlace answer, const std::str
     m_result.periodics.push_back({patchAt(place).name, turned ? otherId : id, turned ? id : otherId,
                                   rotates ? CgnsPeriodic::Kind::Rotation : CgnsPeriodic::Kind::Translation, how.centre,
                                   how.angle, how.translation});
-    note("The faces \"" + id + "\" and \"" + otherId + "\" are periodic by " + (rotates ? "rotation" : "translation") +
-         " in the file; make an interface of them.");
+    note("The faces " + inQuotes(id) + " and " + inQuotes(otherId) + " are periodic by " +
+         (rotates ? "rotation" : "translation") + " in the file; make an interface of them.");
 }
 
 void ModelMaker::addOneSided(PatchPlace place, const std::string& id)
@@ -253,14 +255,14 @@ void ModelMaker::addOneSided(PatchPlace place, const std::string& id)
     const ZoneSurface::CellFaces own = cover(place.zone, patch.selection, textOf(place), patch.name);
     if (donor && patch.kind == Patch::Kind::OneToOne && !patch.periodicity && !patch.donor.values.empty()) {
         compareSides(textOf(place), own, cover(*donor, patch.donor, textOf(place) + ", at its donor,", patch.name));
-        note(textOf(place) + " is not answered by zone \"" + patch.donorZone +
-             "\"; its face has both sides all the same.");
+        note(textOf(place) + " is not answered by zone " + inQuotes(patch.donorZone) +
+             "; its face has both sides all the same.");
         addFace(id, patch.ordinal, place.zone, donor);
         return;
     }
     note(textOf(place) +
-         (donor ? " is not answered by exactly one connectivity of zone \"" + patch.donorZone + "\""
-                : " leads to zone \"" + patch.donorZone + "\", which is not in the file") +
+         (donor ? " is not answered by exactly one connectivity of zone " + inQuotes(patch.donorZone)
+                : " leads to zone " + inQuotes(patch.donorZone) + ", which is not in the file") +
          "; its face has one side only.");
     addFace(id, patch.ordinal, place.zone);
 }
@@ -278,8 +280,9 @@ void ModelMaker::addUncovered(const Zone& zone, ZoneState& state)
         return;
     }
     const std::string id = m_names.take("Face", {}, state.id + "/uncovered");
-    note("Zone \"" + zone.name + "\": " + std::to_string(count) + " of the " + std::to_string(state.coverage->size()) +
-         " cell faces of its surface are in no condition and no connectivity; they are the face \"" + id + "\".");
+    note("Zone " + inQuotes(zone.name) + ": " + std::to_string(count) + " of the " +
+         std::to_string(state.coverage->size()) +
+         " cell faces of its surface are in no condition and no connectivity; they are the face " + inQuotes(id) + ".");
     addFace(id, std::nullopt, static_cast<std::size_t>(&state - m_zones.data()));
 }
 
@@ -306,6 +309,10 @@ ZoneSurface::CellFaces ModelMaker::cover(std::size_t zone, const Selection& sele
     ZoneSurface::CellFaces faces =
         selection.values.empty() ? ZoneSurface::CellFaces{{}, 0, false} : state.surface->cellFaces(selection, place);
     state.coverage->add(name, faces.surface);
+    if (selection.location == Selection::Location::Cell && faces.isKnown) {
+        note(place + " names cells; its face is made of the " + std::to_string(faces.surface.size()) +
+             " cell faces at which they reach the surface.");
+    }
     if (!faces.isKnown) {
         note(place + " names " + (selection.values.empty() ? "no points" : "points that are not cell faces") +
              "; only " + std::to_string(faces.surface.size()) + " cell faces of it are known.");
@@ -338,8 +345,8 @@ std::string ModelMaker::takeFaceId(PatchPlace place)
 std::string ModelMaker::textOf(PatchPlace place) const
 {
     const Patch& patch = patchAt(place);
-    return std::string(patch.kind == Patch::Kind::Condition ? "Condition" : "Connectivity") + " \"" + patch.name +
-           "\" of zone \"" + m_description.zones[place.zone].name + "\"";
+    return std::string(patch.kind == Patch::Kind::Condition ? "Condition" : "Connectivity") + " " +
+           inQuotes(patch.name) + " of zone " + inQuotes(m_description.zones[place.zone].name);
 }
 
 } // namespace

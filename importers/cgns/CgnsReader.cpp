@@ -14,7 +14,8 @@ CgnsDescription descriptionOf(const std::filesystem::path& file)
 {
     static std::mutex library;
     const std::lock_guard<std::mutex> lock(library);
-    return describe(CgnsTree(file));
+    const CgnsTree tree(file);
+    return describe(*tree.root());
 }
 
 } // namespace

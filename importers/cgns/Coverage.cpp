@@ -1,6 +1,10 @@
 #include "importers/cgns/Coverage.h"
 
+#include "support/InQuotes.h"
+
 namespace gtm::bundled {
+
+using support::inQuotes;
 
 void Coverage::add(const std::string& name, const std::vector<std::size_t>& cellFaces)
 {
@@ -21,9 +25,9 @@ std::vector<std::string> Coverage::overlaps(const std::string& zone) const
 {
     std::vector<std::string> sentences;
     for (const auto& [patches, count] : m_overlaps) {
-        sentences.push_back("Zone \"" + zone + "\": " + std::to_string(count) + " cell faces of its surface are in \"" +
-                            m_names[patches.first] + "\" and in \"" + m_names[patches.second] +
-                            "\" too; check which of the two they belong to.");
+        sentences.push_back("Zone " + inQuotes(zone) + ": " + std::to_string(count) +
+                            " cell faces of its surface are in " + inQuotes(m_names[patches.first]) + " and in " +
+                            inQuotes(m_names[patches.second]) + " too; check which of the two they belong to.");
     }
     return sentences;
 }

@@ -33,8 +33,8 @@ protected:
     ZoneSurface() = default;
 };
 
-/// Throws `CgnsError` when the zone contradicts itself. Null for a zone of polyhedra, whose surface is not
-/// worked out. The zone must outlive the surface.
-std::unique_ptr<ZoneSurface> makeSurface(const CgnsDescription::Zone& zone);
+/// Throws `CgnsError` when the zone contradicts itself. Null for a zone whose surface cannot be worked out; then
+/// `obstacle` says why, in words that go on after the name of the zone. The zone must outlive the surface.
+std::unique_ptr<ZoneSurface> makeSurface(const CgnsDescription::Zone& zone, std::string& obstacle);
 
 } // namespace gtm::bundled

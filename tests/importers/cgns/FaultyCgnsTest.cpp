@@ -230,7 +230,7 @@ const std::vector<Fault> faults = {
      [](CgnsFileMaker& maker) {
          addElements(maker, 22, {8, 8}, {3, 1, 2, 3});
      },
-     "Zone \"cube\" has polyhedra, of which cell faces are not worked out; its coverage is not known.", false},
+     "Zone \"cube\" has polyhedra and other cells beside them; its coverage is not known.", false},
     {"overset",
      [](CgnsFileMaker& maker) {
          const auto seams = maker.add(maker.addZone("box"), "ZoneGridConnectivity", "ZoneGridConnectivity_t");
