@@ -108,7 +108,15 @@ struct CaseFile {
         std::optional<bool> imprint;
     };
 
+    /// What the geometry file calls something whose name in the case had to be another one.
+    struct NameInFile {
+        std::string of; ///< "volume", "boundary", "interface" or "region"
+        std::string name;
+        std::string inFile;
+    };
+
     Geometry geometry;
+    std::vector<NameInFile> names;
     bool enforceRestrictions = true;
     std::vector<std::string> maskedParts;
     std::vector<std::string> maskedBodies;

@@ -101,6 +101,7 @@ private:
     void read(const JsonNode& node, std::array<T, size>& list);
 
     void read(const JsonNode& node, CaseFile::Geometry& geometry);
+    void read(const JsonNode& node, CaseFile::NameInFile& name);
     void read(const JsonNode& node, CaseFile::Location& location);
     void read(const JsonNode& node, CaseFile::Domain& domain);
     void read(const JsonNode& node, CaseFile::Model& model);
@@ -265,6 +266,16 @@ void Reader::read(const JsonNode& node, CaseFile::Geometry& geometry)
     }
 }
 
+void Reader::read(const JsonNode& node, CaseFile::NameInFile& name)
+{
+    const Reading of = [&name](const JsonNode& kind) {
+        static const std::vector<std::string> kinds = {"volume", "boundary", "interface", "region"};
+        name.of = kinds[kind.oneOf(kinds, "what has the name")];
+    };
+    readObject(node, {required("of", of), required("name", reference(name.name, "a name in the case")),
+                      required("inFile", value(name.inFile))});
+}
+
 void Reader::read(const JsonNode& node, CaseFile::Location& location)
 {
     if (node.isString()) {
@@ -378,7 +389,7 @@ void Reader::read(const JsonNode& node, CaseFile& file)
     readObject(node,
                {optional("$schema", ignoredText()), required("format", exactly("physics-case")),
                 required("version", version(1)), optional("description", ignoredText()),
-                required("geometry", value(file.geometry)),
+                required("geometry", value(file.geometry)), optional("names", value(file.names)),
                 optional("enforceRestrictions", value(file.enforceRestrictions)), optional("masked", masked),
                 optional("models", value(file.models)), optional("volumes", value(file.volumes)),
                 optional("interfaces", value(file.interfaces)), optional("deactivated", value(file.deactivated))});

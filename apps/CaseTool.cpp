@@ -5,6 +5,7 @@
 #include "apps/verbs/BuildVerb.h"
 #include "apps/verbs/CheckVerb.h"
 #include "apps/verbs/DiffVerb.h"
+#include "apps/verbs/NewVerb.h"
 #include "apps/verbs/ReportVerb.h"
 #include "apps/verbs/RestoreVerb.h"
 #include "apps/verbs/SaveVerb.h"
@@ -79,6 +80,7 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
 {
     std::vector<std::unique_ptr<Verb>> verbs;
     verbs.push_back(std::make_unique<TopologyVerb>());
+    verbs.push_back(std::make_unique<NewVerb>());
     verbs.push_back(std::make_unique<BuildVerb>());
     verbs.push_back(std::make_unique<CheckVerb>());
     verbs.push_back(std::make_unique<ReportVerb>());

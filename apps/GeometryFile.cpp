@@ -52,6 +52,10 @@ GeometryFile readCgnsFile(const std::filesystem::path& file, std::optional<bool>
     GeometryFile geometry;
     geometry.model = std::move(result.model);
     geometry.notes = std::move(result.notes);
+    geometry.zones = std::move(result.zones);
+    geometry.conditions = std::move(result.conditions);
+    geometry.periodics = std::move(result.periodics);
+    geometry.renamed = std::move(result.renamed);
     return geometry;
 #else
     throw InputError(file.string() + ": this program was built without the reader of CGNS files; make a topology file "
@@ -76,6 +80,12 @@ GeometryFile::GeometryFile() = default;
 GeometryFile::GeometryFile(GeometryFile&&) noexcept = default;
 GeometryFile& GeometryFile::operator=(GeometryFile&&) noexcept = default;
 GeometryFile::~GeometryFile() = default;
+
+std::string GeometryFile::nameOf(const std::string& id) const
+{
+    const auto known = renamed.find(id);
+    return known == renamed.end() ? id : known->second;
+}
 
 GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool> imprint)
 {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "importers/cgns/CgnsReader.h"
+
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +19,17 @@ namespace physics::apps {
 struct GeometryFile {
     std::unique_ptr<gtm::bundled::LocationModel> model; ///< never null
     std::vector<std::string> notes;
+
+    /// What the file says of its bodies and faces; of the same form whatever the file.
+    std::vector<gtm::bundled::CgnsZone> zones;
+    std::vector<gtm::bundled::CgnsCondition> conditions;
+    std::vector<gtm::bundled::CgnsPeriodic> periodics;
+
+    /// The ids of regions that are not as in the file, with their names there.
+    std::map<std::string, std::string> renamed;
+
+    /// What the file calls the region with an id.
+    std::string nameOf(const std::string& id) const;
 
     GeometryFile();
     GeometryFile(GeometryFile&&) noexcept;
