@@ -86,7 +86,7 @@ std::vector<Face*> InteriorEntity::ownInternalFaces() const
     std::vector<ModelFace*> faces;
     for (const ModelBody* body : ownBodies()) {
         for (const ModelFaceUse* faceUse : body->faceUses) {
-            if (!isOutward(*faceUse)) {
+            if (faceUse == faceUse->ownFace().firstFaceUse() && !isOutward(*faceUse)) {
                 faces.push_back(&faceUse->ownFace());
             }
         }

@@ -95,12 +95,20 @@ struct ByIndex {
     }
 };
 
-/// Brings regions into the order of the topology, each once.
+/// Brings regions into the order of the topology, each once. Each region is looked at once only: they may be
+/// many and far apart.
 template <class RegionType>
 void sortUnique(std::vector<RegionType*>& regions)
 {
-    std::sort(regions.begin(), regions.end(), ByIndex());
-    regions.erase(std::unique(regions.begin(), regions.end()), regions.end());
+    std::vector<std::pair<std::size_t, RegionType*>> ranked;
+    ranked.reserve(regions.size());
+    for (RegionType* region : regions) {
+        ranked.emplace_back(region->index, region);
+    }
+    std::sort(ranked.begin(), ranked.end());
+    ranked.erase(std::unique(ranked.begin(), ranked.end()), ranked.end());
+    std::transform(ranked.begin(), ranked.end(), regions.begin(), [](const auto& entry) { return entry.second; });
+    regions.resize(ranked.size());
 }
 
 } // namespace gtm::bundled

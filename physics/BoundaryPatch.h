@@ -76,11 +76,12 @@ private:
     ~BoundaryPatch();
 
     PatchRecord serialise(const PhysicsSerialiser& serialiser) const;
+    void forget(const Settings* settings);
 
     const int m_id;
     Boundary* m_boundary;
-    Interface* m_interface;       // an interface that ends takes its patches along
-    Members<Settings> m_settings; // all that were ever made for this patch, in whichever model
+    Interface* m_interface;            // an interface that ends takes its patches along
+    std::vector<Settings*> m_settings; // all that were made for this patch and live, in whichever model
 };
 
 } // namespace physics

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "physics/NodePool.h"
 #include "physics/NonCopyable.h"
 
 #include <algorithm>
@@ -162,6 +163,9 @@ class BasicIndex : private NonCopyable {
 public:
     using Key = typename Map::key_type;
 
+    /// The pool gives the memory of the entries and outlives the index.
+    explicit BasicIndex(NodePool& pool) : m_entries(NodeAllocator<char>(pool)) {}
+
     /// The object under the key, or null. A key that is a pointer is not dereferenced.
     T* find(const Key& key) const
     {
@@ -235,7 +239,7 @@ template <class K>
 struct Ordered {
     using key_type = K;
     template <class Entry>
-    using With = std::map<K, Entry>;
+    using With = std::map<K, Entry, std::less<K>, NodeAllocator<std::pair<const K, Entry>>>;
 };
 
 /// Selects a hashed map, for keys that are pointers: their order means nothing.
@@ -243,7 +247,7 @@ template <class K>
 struct Hashed {
     using key_type = K;
     template <class Entry>
-    using With = std::unordered_map<K, Entry>;
+    using With = std::unordered_map<K, Entry, std::hash<K>, std::equal_to<K>, NodeAllocator<std::pair<const K, Entry>>>;
 };
 
 template <class Key, class T>
@@ -253,6 +257,8 @@ using Index = BasicIndex<Ordered<Key>, T>;
 template <class K, class T>
 class PointerIndex : public BasicIndex<Hashed<const K*>, T> {
 public:
+    using BasicIndex<Hashed<const K*>, T>::BasicIndex;
+
     /// Keys with their objects, in the order of the keys' ids.
     std::vector<std::pair<const K*, T*>> entriesById() const
     {
@@ -276,6 +282,7 @@ public:
 template <class T>
 class Members : private PointerIndex<T, T> {
 public:
+    using PointerIndex<T, T>::PointerIndex;
     using PointerIndex<T, T>::contains;
     using PointerIndex<T, T>::erase;
     using PointerIndex<T, T>::isEmpty;

@@ -21,7 +21,19 @@ void append(std::vector<Settings*>& result, const std::vector<Settings*>& more)
 
 int Model::s_lastUsedId = 0;
 
-Model::Model(Physics* physics, int id) : m_id(id), m_physics(physics) {}
+Model::Model(Physics* physics, int id)
+    : m_id(id),
+      m_physics(physics),
+      m_volumes(physics->registry().nodes),
+      m_boundaries(physics->registry().nodes),
+      m_interfaces(physics->registry().nodes),
+      m_volumeSettings(physics->registry().nodes),
+      m_internalSettings(physics->registry().nodes),
+      m_patchVolumeSettings(physics->registry().nodes),
+      m_patchShellSettings(physics->registry().nodes),
+      m_patchInterfaceSettings(physics->registry().nodes),
+      m_interfaceSettings(physics->registry().nodes)
+{}
 
 Model::Model(Physics* physics) : Model(physics, nextId(s_lastUsedId)) { addDomain(1, DomainType::Geometry, "Default"); }
 

@@ -66,25 +66,28 @@ public:
     /// Ends every object, listed or not, and empties the indexes. Ended interfaces stay allocated.
     void clear();
 
-    Index<std::string, Volume> volumesByName;
-    Index<std::string, Interface> interfacesByName;
-    Index<int, Model> models;
-    Index<int, Volume> volumes;
-    Index<int, Boundary> boundaries;
-    Index<int, Interface> interfaces;
-    Index<int, Settings> settings;
-    Index<int, ThreadBundle> bundlesByThreadId;
-    Index<int, ThreadBundle> bundlesByZoneId;
-    PointerIndex<gtm::Boundary, Boundary> boundariesByLocation;
+    /// For the indexes of the objects; first, so that it ends last.
+    NodePool nodes;
+
+    Index<std::string, Volume> volumesByName{nodes};
+    Index<std::string, Interface> interfacesByName{nodes};
+    Index<int, Model> models{nodes};
+    Index<int, Volume> volumes{nodes};
+    Index<int, Boundary> boundaries{nodes};
+    Index<int, Interface> interfaces{nodes};
+    Index<int, Settings> settings{nodes};
+    Index<int, ThreadBundle> bundlesByThreadId{nodes};
+    Index<int, ThreadBundle> bundlesByZoneId{nodes};
+    PointerIndex<gtm::Boundary, Boundary> boundariesByLocation{nodes};
     Link<Volume> defaultVolume;
     ActivationGroups activationGroups;
 
 private:
     // All live objects that are owned here; volumes own their boundaries, settings their bundles.
-    Members<Model> m_models;
-    Members<Volume> m_volumes;
-    Members<Interface> m_interfaces;
-    Members<Settings> m_settings;
+    Members<Model> m_models{nodes};
+    Members<Volume> m_volumes{nodes};
+    Members<Interface> m_interfaces{nodes};
+    Members<Settings> m_settings{nodes};
     std::vector<Interface*> m_endedInterfaces;
 };
 

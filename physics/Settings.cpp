@@ -28,7 +28,7 @@ Settings::Settings(int id, Model* model, SettingsType type, TopologyType topolog
       m_topologyType(topologyType)
 {
     if (patch != nullptr)
-        patch->m_settings.insert(this);
+        patch->m_settings.push_back(this);
 }
 
 Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
@@ -54,6 +54,8 @@ Settings::Settings(Model* model, Interface* interface)
 Settings::~Settings()
 {
     m_physics->registry().remove(this);
+    if (m_boundaryPatch)
+        m_boundaryPatch->forget(this);
     for (const auto& entry : m_bundles)
         delete entry.second;
     m_bundles.clear();

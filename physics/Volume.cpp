@@ -16,7 +16,14 @@ namespace physics {
 int Volume::s_lastUsedId = 0;
 
 Volume::Volume(Physics* physics, int id, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)
-    : m_id(id), m_type(type), m_model(model), m_interior(interior), m_isDefault(isDefault), m_physics(physics)
+    : m_id(id),
+      m_type(type),
+      m_model(model),
+      m_interior(interior),
+      m_isDefault(isDefault),
+      m_physics(physics),
+      m_boundariesByName(physics->registry().nodes),
+      m_boundaries(physics->registry().nodes)
 {}
 
 Volume::Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)

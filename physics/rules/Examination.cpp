@@ -9,16 +9,25 @@
 #include "physics/rules/RuleUnmatchedInterfaceBCs.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
+#include <utility>
 
 namespace physics {
 namespace {
 
 constexpr const char* boundaryHasError = "Error: One of more of the boundaries has an error.";
 
-void append(std::vector<std::string>& lines, std::vector<std::string> more)
+template <class T>
+void append(std::vector<T>& items, std::vector<T> more)
 {
-    std::move(more.begin(), more.end(), std::back_inserter(lines));
+    std::move(more.begin(), more.end(), std::back_inserter(items));
+}
+
+void add(std::vector<Physics::Complaint>& complaints, const Region* region, std::vector<std::string> lines)
+{
+    if (!lines.empty())
+        complaints.push_back({region, std::move(lines)});
 }
 
 } // namespace
@@ -30,6 +39,26 @@ Examination::Examination(bool ignoreWarnings) : m_ignoreWarnings(ignoreWarnings)
     m_rules.push_back(std::make_unique<RuleUnmatchedInterfaceBCs>());
 }
 
+std::vector<Physics::Complaint> Examination::complaints(const Physics& physics)
+{
+    std::vector<Physics::Complaint> complaints;
+    std::vector<Physics::Complaint> ofBoundaries;
+    add(complaints, nullptr, linesOf(physics));
+    for (const Volume* volume : physics.volumes()) {
+        std::vector<std::string> lines = ownLinesOf(*volume);
+        const std::size_t noOfFaultyBefore = ofBoundaries.size();
+        for (const Boundary* boundary : volume->boundaries())
+            add(ofBoundaries, boundary, linesOf(*boundary));
+        if (ofBoundaries.size() > noOfFaultyBefore)
+            lines.emplace_back(boundaryHasError);
+        add(complaints, volume, std::move(lines));
+    }
+    append(complaints, std::move(ofBoundaries));
+    for (const Interface* interface : physics.interfaces())
+        add(complaints, interface, linesOf(*interface));
+    return complaints;
+}
+
 std::vector<std::string> Examination::linesOf(const Physics& physics)
 {
     std::vector<std::string> lines;
@@ -38,11 +67,17 @@ std::vector<std::string> Examination::linesOf(const Physics& physics)
     return lines;
 }
 
-std::vector<std::string> Examination::linesOf(const Volume& volume)
+std::vector<std::string> Examination::ownLinesOf(const Volume& volume)
 {
     std::vector<std::string> lines;
     for (const auto& rule : m_rules)
         append(lines, rule->checkVolume(&volume, m_ignoreWarnings));
+    return lines;
+}
+
+std::vector<std::string> Examination::linesOf(const Volume& volume)
+{
+    std::vector<std::string> lines = ownLinesOf(volume);
     const std::vector<Boundary*> boundaries = volume.boundaries();
     if (std::any_of(boundaries.begin(), boundaries.end(),
                     [this](const Boundary* boundary) { return isFaulty(*boundary); }))
@@ -119,8 +154,8 @@ bool Physics::isPhysicsValid(bool lenient) const
     const auto hasNothingAgainstAny = [&hasNothingAgainst](const auto& objects) {
         return std::all_of(objects.begin(), objects.end(), hasNothingAgainst);
     };
-    return hasNothingAgainst(this) && hasNothingAgainstAny(volumes()) && hasNothingAgainstAny(boundaries()) &&
-           hasNothingAgainstAny(interfaces());
+    // A volume answers for the boundaries that it lists, which are all that the set-up lists.
+    return hasNothingAgainst(this) && hasNothingAgainstAny(volumes()) && hasNothingAgainstAny(interfaces());
 }
 
 std::vector<std::string> Physics::validate(bool detailed, bool ignoreWarnings) const
@@ -138,21 +173,7 @@ std::vector<std::string> Physics::validate(bool detailed, bool ignoreWarnings) c
 
 std::vector<Physics::Complaint> Physics::complaints(bool ignoreWarnings) const
 {
-    Examination examination(ignoreWarnings);
-    std::vector<Complaint> complaints;
-    const auto add = [&complaints](const Region* region, std::vector<std::string> lines) {
-        if (!lines.empty())
-            complaints.push_back({region, std::move(lines)});
-    };
-    const auto addAll = [&](const auto& objects) {
-        for (const auto* object : objects)
-            add(object, examination.linesOf(*object));
-    };
-    add(nullptr, examination.linesOf(*this));
-    addAll(volumes());
-    addAll(boundaries());
-    addAll(interfaces());
-    return complaints;
+    return Examination(ignoreWarnings).complaints(*this);
 }
 
 } // namespace physics

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "physics/Physics.h"
 #include "physics/rules/Rule.h"
 
 #include <memory>
@@ -15,6 +16,10 @@ class Examination {
 public:
     explicit Examination(bool ignoreWarnings);
 
+    /// What the rules say of the set-up as a whole and of each of its objects. Each boundary is looked at
+    /// once, for its volume and for itself.
+    std::vector<Physics::Complaint> complaints(const Physics& physics);
+
     /// What the rules say of the set-up as a whole, without its objects.
     std::vector<std::string> linesOf(const Physics& physics);
 
@@ -25,6 +30,7 @@ public:
     std::vector<std::string> linesOf(const Interface& interface);
 
 private:
+    std::vector<std::string> ownLinesOf(const Volume& volume);
     bool isFaulty(const Boundary& boundary);
 
     const bool m_ignoreWarnings;

@@ -8,8 +8,11 @@
 
 #include "gtm/LocationModel.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <set>
+#include <tuple>
 
 namespace physics {
 namespace {
@@ -19,19 +22,34 @@ constexpr const char* mustBeFixed = "This problem MUST be fixed before the solut
 /// The face uses of a boundary whose face it reaches by one side only, each once and in its order.
 std::vector<const gtm::FaceUse*> singleSided(const Boundary* boundary)
 {
-    std::vector<const gtm::FaceUse*> faceUses;
-    std::unordered_set<const gtm::FaceUse*> seen;
-    std::unordered_map<const gtm::Face*, int> sidesOfFace;
+    struct Reach {
+        const gtm::Face* face;
+        const gtm::FaceUse* side;
+        std::size_t place; // in the boundary's list
+    };
+    std::vector<Reach> reached;
     for (const gtm::FaceUse* faceUse : boundary->faceUses())
-        if (faceUse != nullptr && seen.insert(faceUse).second) {
-            faceUses.push_back(faceUse);
-            ++sidesOfFace[faceUse->face()];
-        }
-    std::vector<const gtm::FaceUse*> single;
-    for (const gtm::FaceUse* faceUse : faceUses)
-        if (sidesOfFace[faceUse->face()] == 1)
-            single.push_back(faceUse);
-    return single;
+        if (faceUse != nullptr)
+            reached.push_back({faceUse->face(), faceUse, reached.size()});
+    std::sort(reached.begin(), reached.end(), [](const Reach& left, const Reach& right) {
+        return std::tie(left.face, left.place) < std::tie(right.face, right.place);
+    });
+
+    std::vector<Reach> single;
+    for (auto first = reached.cbegin(); first != reached.cend();) {
+        const auto isAnother = [first](const Reach& reach) { return reach.face != first->face; };
+        const auto isOtherSide = [first](const Reach& reach) { return reach.side != first->side; };
+        const auto end = std::find_if(first, reached.cend(), isAnother);
+        if (std::none_of(first, end, isOtherSide))
+            single.push_back(*first);
+        first = end;
+    }
+    std::sort(single.begin(), single.end(),
+              [](const Reach& left, const Reach& right) { return left.place < right.place; });
+    std::vector<const gtm::FaceUse*> faceUses;
+    for (const Reach& reach : single)
+        faceUses.push_back(reach.side);
+    return faceUses;
 }
 
 std::string counted(std::size_t count, const std::string& noun)
