@@ -15,14 +15,15 @@ class PackagesTest(unittest.TestCase):
         self.assertEqual(packages.explained(text), {"cmake": "builds", "git": ""})
 
     def test_equal_lists_are_fine(self):
-        self.assertEqual(packages.findings(["cmake", "git"], {"git": "history", "cmake": "builds"}), [])
+        self.assertEqual(packages.findings({"a.txt": ["cmake", "git"], "b.txt": ["boost"]},
+                                           {"git": "history", "cmake": "builds", "boost": "compared"}), [])
 
     def test_every_difference_is_named(self):
-        self.assertEqual(packages.findings(["git", "cmake"], {"git": "", "ninja": "fast"}), [
-            "scripts/packages.txt: cmake is not explained in docs/dependencies.md",
+        self.assertEqual(packages.findings({"a.txt": ["git", "cmake"], "b.txt": []}, {"git": "", "ninja": "fast"}), [
+            "a.txt: cmake is not explained in docs/dependencies.md",
             "docs/dependencies.md: git has no reason",
-            "docs/dependencies.md: ninja is not in scripts/packages.txt",
-            "scripts/packages.txt: cmake must stand before git: the list is sorted and names each once",
+            "docs/dependencies.md: ninja is not in a.txt or b.txt",
+            "a.txt: cmake must stand before git: the list is sorted and names each once",
         ])
 
 
