@@ -12,6 +12,7 @@
 #include "physics/Physics.h"
 #include "physics/Settings.h"
 #include "physics/ThreadBundle.h"
+#include "physics/Types.h"
 #include "physics/Volume.h"
 #include "tests/scripted/World.h"
 
@@ -97,7 +98,7 @@ void measure(const std::string& name, Change prepare, Change act, Caches caches)
     };
     benchmark::RegisterBenchmark(name.c_str(), run)
         ->RangeMultiplier(10)
-        ->Range(1000, 100000)
+        ->Range(1000, 1000000)
         ->Unit(benchmark::kMillisecond);
 }
 
@@ -184,6 +185,47 @@ void find(SetUp& setUp, std::int64_t)
         benchmark::DoNotOptimize(setUp.set.findBoundaryById(boundary->id()));
 }
 
+void renameBoundaries(SetUp& setUp, std::int64_t)
+{
+    for (Boundary* boundary : setUp.boundaries)
+        boundary->rename("renamed");
+}
+
+void retypeBoundaries(SetUp& setUp, std::int64_t)
+{
+    for (Boundary* boundary : setUp.boundaries)
+        benchmark::DoNotOptimize(boundary->setBoundaryType(BoundaryType::Symmetry));
+}
+
+/// Solids cannot have the default type of boundaries of fluids, so these change too.
+void retypeVolumes(SetUp& setUp, std::int64_t)
+{
+    for (Volume* volume : setUp.volumes)
+        volume->setType(VolumeType::Solid);
+}
+
+void deactivateAndActivate(SetUp& setUp, std::int64_t)
+{
+    setUp.set.activateGroup(setUp.set.deactivateVolumes(setUp.volumes));
+}
+
+/// One thread bundle with a zone of its own on each boundary.
+void addThreads(SetUp& setUp, std::int64_t)
+{
+    for (Boundary* boundary : setUp.boundaries)
+        boundary->nonOverlappingBoundarySettings()
+            ->createThreadBundle(0, ThreadType::Wall, boundary->id(), {1})
+            ->setZoneIds({boundary->id()});
+}
+
+void makeShellSettings(SetUp& setUp, std::int64_t)
+{
+    for (Boundary* boundary : setUp.boundaries) {
+        boundary->setShellModel(setUp.first);
+        benchmark::DoNotOptimize(boundary->nonOverlappingShellSettings());
+    }
+}
+
 void moveVolumes(SetUp& setUp, std::int64_t)
 {
     for (Volume* volume : setUp.volumes)
@@ -263,6 +305,12 @@ void registerAll()
     measure(small + "create", nothing, smallVolumes);
     measure(small + "list", smallVolumes, list);
     measure(small + "find", smallVolumes, find);
+    measure(small + "rename", smallVolumes, renameBoundaries);
+    measure(small + "retype boundaries", smallVolumes, retypeBoundaries);
+    measure(small + "retype volumes", smallVolumes, retypeVolumes);
+    measure(small + "make settings of shells", smallVolumes, makeShellSettings);
+    measure(small + "make bundles with zones", smallVolumes, addThreads);
+    measure(small + "deactivate and activate", smallVolumes, deactivateAndActivate);
     measure(small + "move to another model", smallVolumes, moveVolumes);
     measure(small + "destroy one by one", smallVolumes, destroyVolumes);
     measure(small + "clear", smallVolumes, clear);
