@@ -18,6 +18,9 @@
 // has ended, or an entry of an `Index`, which vanishes with it. Both are `References`: each object
 // knows the references to it and ends them when it ends, without a search. What owns an object is said
 // in the comment of its class; that something has been taken out of every index never frees it.
+//
+// A host that keeps a pointer for longer than it can know the object to live, as a binding of another language
+// does, holds a `Link` too. It ends before the library is unloaded, and is used in the thread of the set-up.
 
 namespace physics {
 
