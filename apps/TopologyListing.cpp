@@ -10,6 +10,10 @@
 #include "gtm/TopologyMap.h"
 #include "locationmodel/LocationModel.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -18,6 +22,14 @@ namespace physics::apps {
 namespace {
 
 using gtm::bundled::LocationModel;
+
+/// A number in as few digits as still tell it from others to six of them.
+std::string inDigits(double value)
+{
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::general, 6);
+    return {text.begin(), end.ptr};
+}
 
 std::string idOf(const gtm::Region* region) { return region == nullptr ? "-" : region->id(); }
 
@@ -57,22 +69,59 @@ void listParts(const LocationModel& model, Output& output)
     table.print("parts", output);
 }
 
+std::string numberOrDash(const std::optional<double>& value) { return value ? inDigits(*value) : "-"; }
+
+std::string pointOrDash(const std::optional<std::array<double, 3>>& point)
+{
+    return point ? inDigits((*point)[0]) + " " + inDigits((*point)[1]) + " " + inDigits((*point)[2]) : "-";
+}
+
+std::string textOrDash(const std::string& text) { return text.empty() ? "-" : text; }
+
+/// Whether anything is known of any of these regions; otherwise there are no columns for it.
+template <class Regions, class Facts>
+bool areDescribed(const LocationModel& model, const Regions& regions, const Facts& nothing)
+{
+    return std::any_of(regions.begin(), regions.end(),
+                       [&](const auto* region) { return !(model.facts(region) == nothing); });
+}
+
 void listBodies(const LocationModel& model, Output& output)
 {
-    Table table({"id", "part", "face uses", "zones"});
+    const bool areKnown = areDescribed(model, model.bodies(), gtm::bundled::BodyFacts());
+    std::vector<std::string> titles = {"id", "part", "face uses", "zones"};
+    if (areKnown) {
+        titles.insert(titles.end(), {"volume", "colour"});
+    }
+    Table table(titles);
     for (const gtm::Body* body : model.bodies()) {
-        table.add(
-            {body->id(), idOf(model.part(body)), std::to_string(model.faceUses(body).size()), zonesOf(model, body)});
+        std::vector<std::string> row = {body->id(), idOf(model.part(body)), std::to_string(model.faceUses(body).size()),
+                                        zonesOf(model, body)};
+        if (areKnown) {
+            const gtm::bundled::BodyFacts& facts = model.facts(body);
+            row.insert(row.end(), {numberOrDash(facts.volume), textOrDash(facts.color)});
+        }
+        table.add(row);
     }
     table.print("bodies", output);
 }
 
 void listFaces(const LocationModel& model, Output& output)
 {
-    Table table({"id", "first side", "second side"});
+    const bool areKnown = areDescribed(model, model.faces(), gtm::bundled::FaceFacts());
+    std::vector<std::string> titles = {"id", "first side", "second side"};
+    if (areKnown) {
+        titles.insert(titles.end(), {"area", "centroid", "colour"});
+    }
+    Table table(titles);
     const auto bodyOf = [](const gtm::FaceUse* use) { return idOf(use == nullptr ? nullptr : use->body()); };
     for (const gtm::Face* face : model.faces()) {
-        table.add({face->id(), bodyOf(face->firstFaceUse()), bodyOf(face->secondFaceUse())});
+        std::vector<std::string> row = {face->id(), bodyOf(face->firstFaceUse()), bodyOf(face->secondFaceUse())};
+        if (areKnown) {
+            const gtm::bundled::FaceFacts& facts = model.facts(face);
+            row.insert(row.end(), {numberOrDash(facts.area), pointOrDash(facts.centroid), textOrDash(facts.color)});
+        }
+        table.add(row);
     }
     table.print("faces", output);
 }

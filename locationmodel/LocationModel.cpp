@@ -60,6 +60,9 @@ std::vector<FaceUse*> LocationModel::faceUses(const Body* body) const
 
 Part* LocationModel::part(const Body* body) const { return static_cast<const ModelBody*>(body)->part; }
 
+const BodyFacts& LocationModel::facts(const Body* body) const { return static_cast<const ModelBody*>(body)->facts; }
+const FaceFacts& LocationModel::facts(const Face* face) const { return static_cast<const ModelFace*>(face)->facts; }
+
 std::string LocationModel::lastRefusal() const { return m_topology->lastRefusal().text(); }
 
 std::int32_t LocationModel::lastRefusedState() const { return m_topology->lastRefusal().refusedState(); }

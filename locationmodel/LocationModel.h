@@ -2,6 +2,7 @@
 
 #include "gtm/Export.h"
 #include "gtm/Model.h"
+#include "locationmodel/RegionFacts.h"
 
 #include <cstdint>
 #include <memory>
@@ -36,6 +37,10 @@ public:
 
     /// The part of `body`, or null when it is in none.
     Part* part(const Body* body) const;
+
+    /// What is known of a body or face, which must be of this model; empty where nobody told.
+    const BodyFacts& facts(const Body* body) const;
+    const FaceFacts& facts(const Face* face) const;
 
     /// Why the last attempt to create or relocate something on any working copy over this model was
     /// refused: whole sentences for people. Empty when it was not refused. For what exists there is

@@ -4,6 +4,7 @@
 #include "gtm/FaceUse.h"
 #include "gtm/Part.h"
 #include "gtm/TopologyMap.h"
+#include "locationmodel/RegionFacts.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -57,6 +58,7 @@ public:
     ModelPart* const part; ///< null outside every part
     std::vector<ModelFaceUse*> faceUses;
     std::vector<ExternalBody> zones;
+    BodyFacts facts;
 };
 
 class ModelFace final : public Face, public RegionInfo {
@@ -68,6 +70,8 @@ public:
     std::string id() const override { return name; }
 
     using Face::setFaceUses;
+
+    FaceFacts facts;
 };
 
 class ModelFaceUse final : public FaceUse, public RegionInfo {

@@ -5,6 +5,7 @@
 #include "support/NearestName.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace gtm::bundled {
@@ -53,6 +54,30 @@ std::string quoted(const std::string& id)
         text += isControl ? '?' : c;
     }
     return text + '"';
+}
+
+bool isColor(const std::string& text)
+{
+    return text.size() == 7 && text.front() == '#' &&
+           text.find_first_not_of("0123456789abcdef", 1) == std::string::npos;
+}
+
+void refuse(const std::string& region, const std::string& what) { throw TopologyError("The " + region + " " + what); }
+
+void checkSize(const std::string& region, const char* what, const std::optional<double>& size)
+{
+    if (size && (!std::isfinite(*size) || *size < 0)) {
+        refuse(region, std::string("has ") + what +
+                           " that is below zero or not finite; leave it out where it is not "
+                           "known.");
+    }
+}
+
+void checkColor(const std::string& region, const std::string& color)
+{
+    if (!color.empty() && !isColor(color)) {
+        refuse(region, "has the colour " + quoted(color) + "; write it as \"#rrggbb\" in small letters.");
+    }
 }
 
 } // namespace
@@ -151,6 +176,30 @@ void TopologyBuilder::addFace(const std::string& id, const Side& first, const st
         self.topology->addFaceUse(secondId, face, *secondBody).zones = second->zones;
         self.hasZones = self.hasZones || !second->zones.empty();
     }
+}
+
+void TopologyBuilder::describeBody(const std::string& id, const BodyFacts& facts)
+{
+    const std::string region = "body " + quoted(id);
+    ModelBody& body = m_implementation->findForReference(RegionInfo::Kind::Body, id, "A fact",
+                                                         m_implementation->topology->ownBodies());
+    checkSize(region, "a volume", facts.volume);
+    checkColor(region, facts.color);
+    body.facts = facts;
+}
+
+void TopologyBuilder::describeFace(const std::string& id, const FaceFacts& facts)
+{
+    const std::string region = "face " + quoted(id);
+    ModelFace& face = m_implementation->findForReference(RegionInfo::Kind::Face, id, "A fact",
+                                                         m_implementation->topology->ownFaces());
+    checkSize(region, "an area", facts.area);
+    checkColor(region, facts.color);
+    if (facts.centroid && !std::all_of(facts.centroid->begin(), facts.centroid->end(),
+                                       [](double value) { return std::isfinite(value); })) {
+        refuse(region, "has a centroid that is not finite; leave it out where it is not known.");
+    }
+    face.facts = facts;
 }
 
 std::unique_ptr<LocationModel> TopologyBuilder::build()

@@ -2,6 +2,7 @@
 
 #include "gtm/Export.h"
 #include "gtm/TopologyMap.h"
+#include "locationmodel/RegionFacts.h"
 
 #include <cstdint>
 #include <memory>
@@ -45,6 +46,11 @@ public:
 
     /// The bodies must have been added before. Without a second side the face bounds one body only.
     void addFace(const std::string& id, const Side& first, const std::optional<Side>& second = std::nullopt);
+
+    /// Tells facts about a body or face added before, in place of what was told of it. Refuses numbers that are
+    /// not finite, an area or volume below zero, and a colour that is not "#rrggbb" in small letters.
+    void describeBody(const std::string& id, const BodyFacts& facts);
+    void describeFace(const std::string& id, const FaceFacts& facts);
 
     /// The finished model; the builder is empty afterwards. Parts, bodies and faces keep the order in
     /// which they were added. A model without any zone has no solver zone map.

@@ -8,6 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -44,7 +45,7 @@ public:
         readHeader();
         const JsonNode bodies = m_root.member("bodies");
         for (const JsonNode& body : bodies.items()) {
-            body.expectKeys({"id", "zones"});
+            body.expectKeys({"id", "zones", "volume", "color"});
             m_bodies.insert(m_bodyIds.emplace_back(body.member("id").string()));
         }
         if (const auto parts = m_root.find("parts")) {
@@ -101,12 +102,18 @@ private:
         }
         const JsonNode id = body.member("id");
         const auto part = m_partOfBody.find(id.string());
-        placed(id, [&] { m_builder.addBody(id.string(), part == m_partOfBody.end() ? "" : part->second, zones); });
+        const BodyFacts facts{numberAt(body, "volume"), textAt(body, "color")};
+        placed(id, [&] {
+            m_builder.addBody(id.string(), part == m_partOfBody.end() ? "" : part->second, zones);
+            if (!(facts == BodyFacts())) {
+                m_builder.describeBody(id.string(), facts);
+            }
+        });
     }
 
     void readFace(const JsonNode& face)
     {
-        face.expectKeys({"id", "sides"});
+        face.expectKeys({"id", "sides", "area", "centroid", "color"});
         const JsonNode id = face.member("id");
         const JsonNode list = face.member("sides");
         std::vector<TopologyBuilder::Side> sides;
@@ -119,7 +126,38 @@ private:
         }
         const std::optional<TopologyBuilder::Side> second =
             sides.size() == 2 ? std::optional(sides.back()) : std::nullopt;
-        placed(id, [&] { m_builder.addFace(id.string(), sides.front(), second); });
+        const FaceFacts facts{numberAt(face, "area"), pointAt(face, "centroid"), textAt(face, "color")};
+        placed(id, [&] {
+            m_builder.addFace(id.string(), sides.front(), second);
+            if (!(facts == FaceFacts())) {
+                m_builder.describeFace(id.string(), facts);
+            }
+        });
+    }
+
+    static std::optional<double> numberAt(const JsonNode& region, std::string_view key)
+    {
+        const auto number = region.find(key);
+        return number ? std::optional(number->number()) : std::nullopt;
+    }
+
+    static std::string textAt(const JsonNode& region, std::string_view key)
+    {
+        const auto text = region.find(key);
+        return text ? text->string() : std::string();
+    }
+
+    static std::optional<std::array<double, 3>> pointAt(const JsonNode& region, std::string_view key)
+    {
+        const auto point = region.find(key);
+        if (!point) {
+            return std::nullopt;
+        }
+        const std::vector<JsonNode> coordinates = point->items();
+        if (coordinates.size() != 3) {
+            point->failExpected("a list of three numbers");
+        }
+        return std::array<double, 3>{coordinates[0].number(), coordinates[1].number(), coordinates[2].number()};
     }
 
     TopologyBuilder::Side readSide(const JsonNode& node) const
@@ -223,6 +261,29 @@ Json idsOf(const std::vector<RegionType*>& regions)
     return ids;
 }
 
+void addFacts(const BodyFacts& facts, Json& json)
+{
+    if (facts.volume) {
+        json["volume"] = *facts.volume;
+    }
+    if (!facts.color.empty()) {
+        json["color"] = facts.color;
+    }
+}
+
+void addFacts(const FaceFacts& facts, Json& json)
+{
+    if (facts.area) {
+        json["area"] = *facts.area;
+    }
+    if (facts.centroid) {
+        json["centroid"] = *facts.centroid;
+    }
+    if (!facts.color.empty()) {
+        json["color"] = facts.color;
+    }
+}
+
 Json describe(const Body& body, const TopologyMap* map)
 {
     Json json = {{"id", body.id()}};
@@ -284,7 +345,11 @@ std::unique_ptr<LocationModel> readTopologyText(const std::string& text, const s
 std::string writeTopology(const LocationModel& model)
 {
     const TopologyMap* map = model.solverZoneMap();
-    const auto describeOne = [map](const auto& region) { return describe(region, map); };
+    const auto describeOne = [&model, map](const auto& region) {
+        Json json = describe(region, map);
+        addFacts(model.facts(&region), json);
+        return json;
+    };
     const auto describePart = [](const Part& part) {
         return Json{{"id", part.id()}, {"bodies", idsOf(part.bodies())}};
     };

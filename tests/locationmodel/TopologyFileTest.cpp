@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -259,5 +260,52 @@ TEST_P(BadTopologyFile, isRefusedWithItsPlaceAndReason) { EXPECT_EQ(refusalOf(Ge
 
 INSTANTIATE_TEST_SUITE_P(Each, BadTopologyFile, ::testing::ValuesIn(badFiles),
                          [](const auto& file) { return file.param.name; });
+
+TEST(TopologyFile, whatIsKnownOfBodiesAndFacesIsKept)
+{
+    const std::string text = "{\n"
+                             "  \"format\": \"physics-topology\",\n"
+                             "  \"version\": 1,\n"
+                             "  \"parts\": [],\n"
+                             "  \"bodies\": [\n"
+                             "    {\"id\":\"a\",\"volume\":0.125,\"color\":\"#ff8000\"},\n"
+                             "    {\"id\":\"b\"}\n"
+                             "  ],\n"
+                             "  \"faces\": [\n"
+                             "    {\"id\":\"f\",\"sides\":[\"a\"],\"area\":0.1,\"centroid\":[0.0,-1.5,2e-07],\"color\":"
+                             "\"#00ff00\"},\n"
+                             "    {\"id\":\"g\",\"sides\":[\"b\"]}\n"
+                             "  ]\n"
+                             "}\n";
+
+    const auto model = readTopologyText(text, "t.json");
+
+    EXPECT_EQ(model->facts(model->bodies()[0]).volume, 0.125);
+    EXPECT_EQ(model->facts(model->bodies()[0]).color, "#ff8000");
+    EXPECT_EQ(model->facts(model->bodies()[1]), gtm::bundled::BodyFacts());
+    EXPECT_EQ(model->facts(model->faces()[0]).area, 0.1);
+    EXPECT_EQ(model->facts(model->faces()[0]).centroid, (std::array<double, 3>{0, -1.5, 2e-7}));
+    EXPECT_EQ(model->facts(model->faces()[0]).color, "#00ff00");
+    EXPECT_EQ(model->facts(model->faces()[1]), gtm::bundled::FaceFacts());
+    EXPECT_EQ(writeTopology(*model), text);
+}
+
+TEST(TopologyFile, aFactThatCannotBeIsRefusedAtItsPlace)
+{
+    const auto refusalOfFace = [](const std::string& fact) {
+        return refusalOf(R"({"format": "physics-topology", "version": 1, "bodies": [{"id": "a"}], "faces": [)"
+                         R"({"id": "f", "sides": ["a"], )" +
+                         fact + "}]}");
+    };
+
+    EXPECT_EQ(refusalOfFace("\"area\": -1"),
+              "t.json:1:88: at /faces/0/id: The face \"f\" has an area that is below zero "
+              "or not finite; leave it out where it is not known.");
+    EXPECT_EQ(refusalOfFace("\"color\": \"red\""),
+              "t.json:1:88: at /faces/0/id: The face \"f\" has the colour \"red\"; write it as \"#rrggbb\" in small "
+              "letters.");
+    EXPECT_EQ(refusalOfFace("\"centroid\": [1, 2]"),
+              "t.json:1:121: at /faces/0/centroid: read a list, expected a list of three numbers.");
+}
 
 } // namespace
