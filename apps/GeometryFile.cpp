@@ -6,7 +6,10 @@
 #include "locationmodel/TopologyFile.h"
 
 #ifdef PHYSICS_HAS_CAD
+#include "apps/ChildProcess.h"
 #include "importers/cad/CadReader.h"
+
+#include <nlohmann/json.hpp>
 #endif
 
 #ifdef PHYSICS_HAS_CGNS
@@ -14,6 +17,7 @@
 #endif
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace physics::apps {
@@ -27,20 +31,47 @@ std::string extensionOf(const std::filesystem::path& file)
     return extension;
 }
 
+#ifdef PHYSICS_HAS_CAD
+/// What is read, or why it cannot be, as a text.
+std::string readCadAsText(const std::filesystem::path& file, std::optional<bool> imprint)
+{
+    nlohmann::json answer;
+    try {
+        gtm::bundled::CadOptions options;
+        options.imprint = imprint;
+        const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);
+        answer = {{"topology", writeTopology(*result.model)}, {"notes", result.notes}};
+    } catch (const std::exception& error) {
+        answer = {{"error", error.what()}};
+    }
+    return answer.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+/// In a child process: damaged geometry can make the geometry kernel crash.
 GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
 {
-#ifdef PHYSICS_HAS_CAD
-    gtm::bundled::CadResult result = gtm::bundled::readCad(file, {imprint});
+    nlohmann::json answer;
+    try {
+        answer = nlohmann::json::parse(answerOfChild([&] { return readCadAsText(file, imprint); }));
+    } catch (const ChildDied& how) {
+        throw InputError(file.string() + ": the geometry kernel broke down over this file (" + how.what() +
+                         "), so it is probably damaged; copy or export it again.");
+    }
+    if (answer.contains("error")) {
+        throw InputError(answer["error"].get<std::string>());
+    }
     GeometryFile geometry;
-    geometry.model = std::move(result.model);
-    geometry.notes = std::move(result.notes);
+    geometry.model = gtm::bundled::readTopologyText(answer["topology"].get<std::string>(), file.string());
+    geometry.notes = answer["notes"].get<std::vector<std::string>>();
     return geometry;
+}
 #else
-    static_cast<void>(imprint);
+GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> /*imprint*/)
+{
     throw InputError(file.string() + ": this program was built without the reader of geometry files; make a topology "
                                      "file of it elsewhere.");
-#endif
 }
+#endif
 
 GeometryFile readCgnsFile(const std::filesystem::path& file, std::optional<bool> imprint)
 {

@@ -4,6 +4,7 @@
 #include "locationmodel/LocationModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gtm::bundled {
 
@@ -74,6 +75,27 @@ void addFace(const Face& face, const std::string& id, const CadIds& ids, Topolog
     builder.addFace(id, side(face.uses[first], ids), side(face.uses[1 - first], ids));
 }
 
+/// The normal points out of the first side, except where the only side looks against it.
+CadTriangles seenFromFirstSide(CadTriangles triangles, const Face& face)
+{
+    if (face.uses.size() == 1 && !face.uses.front().outward)
+        for (auto& corners : triangles.triangles)
+            std::swap(corners[1], corners[2]);
+    return triangles;
+}
+
+std::vector<CadTriangles> trianglesOf(const CadDescription& description, const CadIds& ids)
+{
+    std::vector<CadTriangles> all;
+    for (std::size_t i = 0; i < ids.faces.size(); ++i) {
+        if (description.faces[i].triangles.triangles.empty())
+            continue;
+        all.push_back(seenFromFirstSide(description.faces[i].triangles, description.faces[i]));
+        all.back().face = ids.faces[i];
+    }
+    return all;
+}
+
 } // namespace
 
 CadIds giveIds(const CadDescription& description)
@@ -101,11 +123,14 @@ CadResult buildModel(const CadDescription& description)
     for (std::size_t i = 0; i < ids.bodies.size(); ++i) {
         const std::optional<std::size_t> part = description.bodies[i].part;
         builder.addBody(ids.bodies[i], part ? ids.parts[*part] : std::string());
+        builder.describeBody(ids.bodies[i], description.bodies[i].facts);
     }
-    for (std::size_t i = 0; i < ids.faces.size(); ++i)
+    for (std::size_t i = 0; i < ids.faces.size(); ++i) {
         addFace(description.faces[i], ids.faces[i], ids, builder);
+        builder.describeFace(ids.faces[i], description.faces[i].facts);
+    }
 
-    CadResult result{builder.build(), description.notes};
+    CadResult result{builder.build(), description.notes, trianglesOf(description, ids)};
     result.notes.insert(result.notes.end(), ids.notes.begin(), ids.notes.end());
     return result;
 }

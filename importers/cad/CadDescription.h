@@ -18,6 +18,7 @@ struct CadDescription {
         /// Its place among the solids of the file, from 1.
         std::size_t number = 0;
         std::optional<std::size_t> part;
+        BodyFacts facts = {};
     };
 
     /// How a body sees a face of its surface.
@@ -35,6 +36,10 @@ struct CadDescription {
     /// Face uses are in the order of their bodies; at least one.
     struct Face {
         std::vector<FaceUse> uses;
+        FaceFacts facts = {};
+
+        /// Counter-clockwise as seen against the normal of the face.
+        CadTriangles triangles = {};
     };
 
     std::vector<std::string> parts;

@@ -87,7 +87,7 @@ CadResult read(const std::filesystem::path& file, const CadOptions& options)
     static std::mutex kernel;
     const std::lock_guard<std::mutex> lock(kernel);
     const QuietKernel quiet;
-    return buildModel(describe(shapesOf(content, options)));
+    return buildModel(describe(shapesOf(content, options), options.triangleTolerance));
 }
 
 } // namespace

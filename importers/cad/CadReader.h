@@ -4,6 +4,8 @@
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyBuilder.h"
 
+#include <array>
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -24,6 +26,20 @@ struct CadOptions {
     /// Whether faces are divided and made common where bodies touch. Unset: yes for STEP, in which
     /// every body has faces of its own, and no for BREP, which keeps shared faces.
     std::optional<bool> imprint;
+
+    /// How far the triangles of `CadResult::triangles` may be from the faces, in the length unit of the model;
+    /// above zero. Unset: there are none, which saves time and memory.
+    std::optional<double> triangleTolerance = {};
+};
+
+/// A face in triangles, for pictures.
+struct CadTriangles {
+    std::string face; ///< its id
+    std::vector<std::array<double, 3>> points;
+
+    /// Places in `points`. Seen against the normal, which points out of the first side, they run
+    /// counter-clockwise.
+    std::vector<std::array<std::size_t, 3>> triangles;
 };
 
 /// What was read.
@@ -34,14 +50,21 @@ struct CadResult {
     /// What the file has and the model has not, and every name that could not be kept; one sentence
     /// each, in the same order on every run.
     std::vector<std::string> notes;
+
+    /// One for each face, in their order, when they were asked for; a face that cannot be divided has none.
+    std::vector<CadTriangles> triangles;
 };
 
 /// Reads a STEP or BREP file, told apart by content, not by name. Throws `CadError`.
 ///
 /// Each solid becomes a body, called as its product or, if that has no name, as the solid itself, else
 /// "body-N" for the N-th solid of the file. A product with several solids, and an assembly with solids
-/// directly below it, becomes a part. A face becomes a face called "BODY/NAME" after the first body
-/// that has a name for it, else "BODY/face-N" for the N-th face of the first body.
+/// directly below it, becomes a part, called as the assemblies around it and itself: "engine/stage". A face becomes a
+/// face called "BODY/NAME" after the first body that has a name for it, else "BODY/face-N" for the N-th face of the
+/// first body.
+///
+/// Volumes, areas and centroids are told too, in millimetres for STEP, whatever the unit of the file, and in the
+/// unit of the file for BREP, which names none; products, solids and faces keep their colours.
 ///
 /// The first side of a face that two bodies share is that of the body out of which its normal points.
 ///

@@ -1,5 +1,7 @@
 #include "importers/cad/CadShapes.h"
 
+#include "importers/cad/Measures.h"
+
 #include <BRepLib.hxx>
 #include <BRep_Tool.hxx>
 #include <TopExp.hxx>
@@ -45,6 +47,15 @@ void addUses(const CadFace& face, std::size_t body, bool turned, CadDescription:
     }
     described.uses.push_back({body, face.name, face.number, true});
     described.uses.push_back({body, face.name, face.number, false});
+}
+
+CadDescription::Face measured(const CadFace& face, std::optional<double> triangleTolerance)
+{
+    CadDescription::Face described;
+    described.facts = factsOf(face.shape);
+    if (triangleTolerance)
+        described.triangles = trianglesOf(face.shape, *triangleTolerance);
+    return described;
 }
 
 } // namespace
@@ -95,7 +106,7 @@ void countLoose(const TopoDS_Shape& shape, LeftOut& loose)
     }
 }
 
-CadDescription describe(const CadShapes& shapes)
+CadDescription describe(const CadShapes& shapes, std::optional<double> triangleTolerance)
 {
     CadDescription description{shapes.parts, {}, {}, shapes.notes};
     LeftOut loose = shapes.loose;
@@ -103,7 +114,7 @@ CadDescription describe(const CadShapes& shapes)
     for (std::size_t body = 0; body < shapes.solids.size(); ++body) {
         const CadSolid& solid = shapes.solids[body];
         const bool turned = isInsideOut(solid, description.notes);
-        description.bodies.push_back({solid.name, solid.number, solid.part});
+        description.bodies.push_back({solid.name, solid.number, solid.part, {volumeOf(solid.shape), solid.color}});
         for (const CadFace& face : solid.faces) {
             if (face.shape.Orientation() == TopAbs_EXTERNAL) {
                 loose.add("face", "faces", 1);
@@ -111,8 +122,11 @@ CadDescription describe(const CadShapes& shapes)
             }
             const auto index = static_cast<std::size_t>(known.Add(face.shape));
             if (index > description.faces.size())
-                description.faces.emplace_back();
-            addUses(face, body, turned, description.faces[index - 1]);
+                description.faces.push_back(measured(face, triangleTolerance));
+            CadDescription::Face& described = description.faces[index - 1];
+            if (described.facts.color.empty())
+                described.facts.color = face.color;
+            addUses(face, body, turned, described);
         }
     }
     if (const std::string text = loose.text(); !text.empty())

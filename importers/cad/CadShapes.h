@@ -19,6 +19,7 @@ struct CadFace {
 
     /// Its place among the faces of the solid in the file, from 1.
     std::size_t number = 0;
+    std::string color = {}; ///< "#rrggbb" or empty
 };
 
 struct CadSolid {
@@ -29,6 +30,7 @@ struct CadSolid {
     std::size_t number = 0;
     std::optional<std::size_t> part;
     std::vector<CadFace> faces;
+    std::string color = {}; ///< "#rrggbb" or empty
 };
 
 /// The solids of a geometry file as the geometry kernel holds them. Two faces of different solids with
@@ -55,7 +57,8 @@ std::string inWords(const CadSolid& solid);
 /// Counts the shells, faces, wires, edges and vertices of a shape that belong to no solid.
 void countLoose(const TopoDS_Shape& shape, LeftOut& loose);
 
-/// The same in plain values. A solid that is inside out is turned, with a note.
-CadDescription describe(const CadShapes& shapes);
+/// The same in plain values. A solid that is inside out is turned, with a note. Triangles are made where a
+/// tolerance is given.
+CadDescription describe(const CadShapes& shapes, std::optional<double> triangleTolerance = std::nullopt);
 
 } // namespace gtm::bundled

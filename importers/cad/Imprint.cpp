@@ -52,7 +52,7 @@ std::vector<CadFace> facesOf(const TopoDS_Shape& piece, const CadSolid& solid, B
         const int* origin = origins.Seek(found.Current());
         const CadFace cut{{}, {}, solid.faces.size() + 1};
         const CadFace& from = origin ? solid.faces[static_cast<std::size_t>(*origin)] : cut;
-        faces.push_back({found.Current(), from.name, from.number});
+        faces.push_back({found.Current(), from.name, from.number, from.color});
     }
     std::stable_sort(faces.begin(), faces.end(), [](const CadFace& a, const CadFace& b) {
         return a.number != b.number ? a.number < b.number : centreOf(a.shape) < centreOf(b.shape);
@@ -105,7 +105,8 @@ void imprint(CadShapes& shapes)
                                    " bodies by imprinting.");
         for (const TopoDS_Shape& piece : pieces) {
             if (taken.Add(piece))
-                result.push_back({piece, solid.name, solid.number, solid.part, facesOf(piece, solid, fuse)});
+                result.push_back(
+                    {piece, solid.name, solid.number, solid.part, facesOf(piece, solid, fuse), solid.color});
             else
                 shapes.notes.push_back(inWords(solid) +
                                        " overlaps an earlier solid; the space in common is left to that one.");

@@ -5,6 +5,7 @@
 #include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
 #include <NCollection_DataMap.hxx>
+#include <Quantity_Color.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <StepData_StepModel.hxx>
 #include <StepData_UndefinedEntity.hxx>
@@ -25,11 +26,13 @@
 #include <TopTools_ShapeMapHasher.hxx>
 #include <TransferBRep.hxx>
 #include <Transfer_TransientProcess.hxx>
+#include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 
+#include <algorithm>
 #include <sstream>
 #include <string_view>
 
@@ -41,6 +44,10 @@ constexpr std::string_view firstWord = "ISO-10303-21;";
 constexpr std::string_view lastWord = "END-ISO-10303-21;";
 
 std::string utf8(const TCollection_ExtendedString& text) { return TCollection_AsciiString(text).ToCString(); }
+
+using ShapeTexts = NCollection_DataMap<TopoDS_Shape, std::string, TopTools_ShapeMapHasher>;
+
+TopoDS_Shape withoutPlace(const TopoDS_Shape& shape) { return shape.Located(TopLoc_Location()); }
 
 /// The names that the file gives to solids and faces themselves, by their shape without its place: a
 /// product that is used several times names its faces once.
@@ -70,15 +77,64 @@ public:
     }
 
 private:
-    static TopoDS_Shape withoutPlace(const TopoDS_Shape& shape) { return shape.Located(TopLoc_Location()); }
+    ShapeTexts m_names;
+};
 
-    NCollection_DataMap<TopoDS_Shape, std::string, TopTools_ShapeMapHasher> m_names;
+/// The colours that the file gives to products, solids and faces, by their shape without its place.
+class ShapeColors {
+public:
+    explicit ShapeColors(const TDF_Label& main) : m_tool(XCAFDoc_DocumentTool::ColorTool(main))
+    {
+        TDF_LabelSequence products;
+        XCAFDoc_DocumentTool::ShapeTool(main)->GetShapes(products);
+        for (const TDF_Label& product : products) {
+            add(product);
+            TDF_LabelSequence pieces;
+            XCAFDoc_ShapeTool::GetSubShapes(product, pieces);
+            for (const TDF_Label& piece : pieces)
+                add(piece);
+        }
+    }
+
+    std::string of(const TopoDS_Shape& shape) const
+    {
+        const std::string* color = m_colors.Seek(withoutPlace(shape));
+        return color ? *color : std::string();
+    }
+
+    std::size_t size() const { return static_cast<std::size_t>(m_colors.Extent()); }
+
+private:
+    void add(const TDF_Label& label)
+    {
+        Quantity_Color color;
+        for (const XCAFDoc_ColorType type : {XCAFDoc_ColorSurf, XCAFDoc_ColorGen}) {
+            if (m_tool->GetColor(label, type, color)) {
+                m_colors.Bind(withoutPlace(XCAFDoc_ShapeTool::GetShape(label)), asText(color));
+                return;
+            }
+        }
+    }
+
+    /// As the file says it: the kernel holds colours in another scale, and knows how to go back.
+    static std::string asText(const Quantity_Color& color)
+    {
+        std::string text = Quantity_Color::ColorToHex(color).ToCString();
+        std::transform(text.begin(), text.end(), text.begin(),
+                       [](char c) { return c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c; });
+        return text;
+    }
+
+    Handle(XCAFDoc_ColorTool) m_tool;
+    ShapeTexts m_colors;
 };
 
 /// Walks the products of a file from the assemblies down and collects their solids.
 class ProductWalk {
 public:
-    ProductWalk(const ShapeNames& names, CadShapes& shapes) : m_names(names), m_shapes(shapes) {}
+    ProductWalk(const ShapeNames& names, const ShapeColors& colors, CadShapes& shapes)
+        : m_names(names), m_colors(colors), m_shapes(shapes)
+    {}
 
     void walk(const TDF_Label& label) { walk(label, TopLoc_Location(), nullptr); }
 
@@ -92,7 +148,8 @@ private:
     /// A product that may become a part: it does with the first body directly below it.
     struct Product {
         std::string name;
-        const Product* assembly;
+        std::string path; ///< its name behind those of the assemblies around it: "engine/stage"
+        bool hasSolids;
         std::optional<std::size_t> part;
     };
 
@@ -102,18 +159,27 @@ private:
         TopLoc_Location place = above;
         if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
             place = above * XCAFDoc_ShapeTool::GetLocation(label);
-        Product product{nameOf(referred), assembly, {}};
+        Product product{nameOf(referred), pathTo(referred, assembly), false, {}};
         countOtherName(nameOf(label), product, "name of an instance", "names of instances");
         if (!XCAFDoc_ShapeTool::IsAssembly(referred)) {
             addSolids(XCAFDoc_ShapeTool::GetShape(referred).Moved(place), product, assembly);
-            return;
+        } else {
+            TDF_LabelSequence components;
+            XCAFDoc_ShapeTool::GetComponents(referred, components);
+            for (const TDF_Label& component : components)
+                walk(component, place, &product);
+            if (!product.hasSolids)
+                note("Product \"" + product.name + "\" has no solid, so no part stands for it.");
         }
-        TDF_LabelSequence components;
-        XCAFDoc_ShapeTool::GetComponents(referred, components);
-        for (const TDF_Label& component : components)
-            walk(component, place, &product);
-        if (!product.part)
-            note("Product \"" + product.name + "\" has no solid directly below it, so no part stands for it.");
+        if (assembly)
+            assembly->hasSolids |= product.hasSolids;
+    }
+
+    static std::string pathTo(const TDF_Label& product, const Product* assembly)
+    {
+        const std::string name = nameOf(product);
+        const bool isBelow = assembly && !assembly->path.empty();
+        return isBelow && !name.empty() ? assembly->path + "/" + name : isBelow ? assembly->path : name;
     }
 
     static std::string nameOf(const TDF_Label& product)
@@ -134,6 +200,7 @@ private:
         const std::vector<TopoDS_Shape> solids = subShapes(shape, TopAbs_SOLID);
         Product* owner = solids.size() > 1 ? &product : assembly;
         const bool isOneSolid = solids.size() == 1 && !RegionIds::asId(product.name).empty();
+        product.hasSolids = !solids.empty();
         for (const TopoDS_Shape& shapeOfSolid : solids) {
             CadSolid& solid = addSolid(shapeOfSolid, m_shapes);
             solid.name = isOneSolid ? product.name : m_names.of(shapeOfSolid);
@@ -141,8 +208,13 @@ private:
                 countOtherName(m_names.of(shapeOfSolid), product, "name of a solid", "names of solids");
             if (owner)
                 solid.part = partOf(*owner);
-            for (CadFace& face : solid.faces)
+            solid.color = m_colors.of(shapeOfSolid);
+            if (solid.color.empty())
+                solid.color = m_colors.of(shape);
+            for (CadFace& face : solid.faces) {
                 face.name = m_names.of(face.shape);
+                face.color = m_colors.of(face.shape);
+            }
         }
     }
 
@@ -150,10 +222,7 @@ private:
     {
         if (!product.part) {
             product.part = m_shapes.parts.size();
-            m_shapes.parts.push_back(product.name);
-            if (product.assembly)
-                note("Product \"" + product.name + "\" lies within \"" + product.assembly->name +
-                     "\"; parts do not nest, so it is a part beside it.");
+            m_shapes.parts.push_back(product.path);
         }
         return *product.part;
     }
@@ -161,19 +230,21 @@ private:
     void note(const std::string& sentence) { m_shapes.notes.push_back(sentence); }
 
     const ShapeNames& m_names;
+    const ShapeColors& m_colors;
     CadShapes& m_shapes;
     LeftOut m_otherNames;
 };
 
 /// What a STEP file may say besides shapes and names.
-void noteOtherContent(const StepData_StepModel& model, std::vector<std::string>& notes)
+void noteOtherContent(const StepData_StepModel& model, std::size_t noOfColors, std::vector<std::string>& notes)
 {
     LeftOut known;
     LeftOut unknown;
+    std::size_t noOfStyles = 0;
     for (int i = 1; i <= model.NbEntities(); ++i) {
         const Handle(Standard_Transient)& entity = model.Value(i);
         if (entity->IsKind(STANDARD_TYPE(StepVisual_StyledItem)))
-            known.add("colour or style", "colours and styles", 1);
+            ++noOfStyles;
         else if (entity->IsKind(STANDARD_TYPE(StepVisual_PresentationLayerAssignment)))
             known.add("layer", "layers", 1);
         else if (entity->IsKind(STANDARD_TYPE(StepDimTol_GeometricTolerance)))
@@ -181,6 +252,7 @@ void noteOtherContent(const StepData_StepModel& model, std::vector<std::string>&
         else if (const auto undefined = Handle(StepData_UndefinedEntity)::DownCast(entity); !undefined.IsNull())
             unknown.add(undefined->StepType(), undefined->StepType(), 1);
     }
+    known.add("style", "styles", noOfStyles - std::min(noOfStyles, noOfColors));
     if (const std::string text = known.text(); !text.empty())
         notes.push_back("Left out, because a topology has no place for them: " + text + ".");
     if (const std::string text = unknown.text(); !text.empty())
@@ -235,7 +307,7 @@ void transfer(STEPCAFControl_Reader& reader, const std::string& content, Handle(
         throw CadError("the file breaks the grammar of STEP and cannot be read; export it again.");
     refuseBrokenGrammar(*reader.ChangeReader().StepModel());
     refuseDamagedEntities(*reader.ChangeReader().StepModel());
-    reader.SetColorMode(false);
+    reader.SetColorMode(true);
     reader.SetLayerMode(false);
     reader.SetPropsMode(false);
     reader.SetSHUOMode(false);
@@ -263,13 +335,14 @@ CadShapes readStep(const std::string& content)
 
     CadShapes shapes;
     const ShapeNames names(reader);
-    ProductWalk products(names, shapes);
+    const ShapeColors colors(document->Main());
+    ProductWalk products(names, colors, shapes);
     TDF_LabelSequence top;
     XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(top);
     for (const TDF_Label& label : top)
         products.walk(label);
     products.noteOtherNames();
-    noteOtherContent(*reader.ChangeReader().StepModel(), shapes.notes);
+    noteOtherContent(*reader.ChangeReader().StepModel(), colors.size(), shapes.notes);
     return shapes;
 }
 

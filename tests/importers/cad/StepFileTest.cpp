@@ -115,7 +115,7 @@ TEST(StepFile, aProductWithSeveralSolidsIsAPart)
     EXPECT_EQ(bodiesOf(result), "body body-1 in pair\nbody right in pair\n");
 }
 
-TEST(StepFile, nestedAssembliesArePartsSideBySide)
+TEST(StepFile, nestedAssembliesArePartsCalledByTheWayToThem)
 {
     const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
         const TDF_Label engine = assembly(tool, "engine");
@@ -126,10 +126,8 @@ TEST(StepFile, nestedAssembliesArePartsSideBySide)
 
     const CadResult result = read(withSolidsCalled("", content));
 
-    EXPECT_EQ(bodiesOf(result), "body rotor in stage\n");
-    EXPECT_EQ(result.notes,
-              (Strings{"Product \"stage\" lies within \"engine\"; parts do not nest, so it is a part beside it.",
-                       "Product \"engine\" has no solid directly below it, so no part stands for it."}));
+    EXPECT_EQ(bodiesOf(result), "body rotor in engine/stage\n");
+    EXPECT_TRUE(result.notes.empty());
 }
 
 TEST(StepFile, namesBesideThoseOfProductsAreToldAsLeftOut)
@@ -149,14 +147,40 @@ TEST(StepFile, namesBesideThoseOfProductsAreToldAsLeftOut)
                                      "Body \"blade\" is called \"blade-2\" here, because \"blade\" is taken."}));
 }
 
-TEST(StepFile, coloursAreToldAsLeftOut)
+TEST(StepFile, anAssemblyWithoutSolidsIsToldAsLeftOut)
 {
     const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
-        const TDF_Label block = product(tool, box({0, 0, 0}, {1, 1, 1}), "block");
-        XCAFDoc_DocumentTool::ColorTool(block)->SetColor(block, Quantity_Color(Quantity_NOC_RED), XCAFDoc_ColorSurf);
+        const TDF_Label engine = assembly(tool, "engine");
+        const TDF_Label trim = assembly(tool, "trim");
+        addTo(tool, trim, product(tool, first(box({0, 0, 0}, {1, 1, 1}), TopAbs_SHELL), "skin"), TopLoc_Location());
+        addTo(tool, engine, trim, TopLoc_Location());
+        addTo(tool, engine, product(tool, box({5, 0, 0}, {6, 1, 1}), "rotor"), TopLoc_Location());
     });
 
-    EXPECT_EQ(read(content).notes, (Strings{"Left out, because a topology has no place for them: 1 colour or style."}));
+    const CadResult result = read(withSolidsCalled("", content));
+
+    EXPECT_EQ(bodiesOf(result), "body rotor in engine\n");
+    EXPECT_EQ(result.notes, (Strings{"Product \"trim\" has no solid, so no part stands for it.",
+                                     "Left out, because they bound no solid: 1 shell."}));
+}
+
+TEST(StepFile, coloursOfProductsAndFacesArrive)
+{
+    const std::string content = stepOf([](XCAFDoc_ShapeTool& tool) {
+        const TopoDS_Shape shape = box({0, 0, 0}, {1, 1, 1});
+        const TDF_Label block = product(tool, shape, "block");
+        const TDF_Label face = tool.AddSubShape(block, first(shape, TopAbs_FACE));
+        const auto colors = XCAFDoc_DocumentTool::ColorTool(block);
+        colors->SetColor(block, Quantity_Color(Quantity_NOC_RED), XCAFDoc_ColorSurf);
+        colors->SetColor(face, Quantity_Color(Quantity_NOC_BLUE), XCAFDoc_ColorSurf);
+    });
+
+    const CadResult result = read(content);
+
+    EXPECT_EQ(result.model->facts(result.model->bodies()[0]).color, "#ff0000");
+    EXPECT_EQ(result.model->facts(result.model->faces()[0]).color, "#0000ff");
+    EXPECT_EQ(result.model->facts(result.model->faces()[1]).color, "");
+    EXPECT_TRUE(result.notes.empty());
 }
 
 TEST(StepFile, entitiesOfUnknownKindAreToldAsLeftOut)
