@@ -39,11 +39,11 @@ struct SetUp {
             volumes.push_back(set.createVolume("volume-" + std::to_string(i), nowhere, VolumeType::Fluid));
     }
 
-    /// Volume by volume in turn.
+    /// Shared out among the volumes, one volume after the other, as a host reads them.
     void addBoundaries(std::int64_t noOf)
     {
         for (std::int64_t i = 0; i < noOf; ++i) {
-            Volume* owner = volumes[static_cast<std::size_t>(i) % volumes.size()];
+            Volume* owner = volumes[static_cast<std::size_t>(i) * volumes.size() / static_cast<std::size_t>(noOf)];
             boundaries.push_back(owner->createBoundary("boundary-" + std::to_string(i), nowhere));
         }
     }
