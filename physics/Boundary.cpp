@@ -48,7 +48,8 @@ std::vector<std::string> Boundary::unresolvableNames() const { return m_boundary
 
 std::vector<gtm::FaceUse*> Boundary::overlap(const Boundary* other) const
 {
-    return other == nullptr ? std::vector<gtm::FaceUse*>() : m_boundary->overlap(other->m_boundary);
+    return other == nullptr || other->physics() != physics() ? std::vector<gtm::FaceUse*>()
+                                                             : m_boundary->overlap(other->m_boundary);
 }
 
 std::vector<Boundary*> Boundary::overlappingBoundaries() const

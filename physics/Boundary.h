@@ -70,7 +70,7 @@ public:
     std::vector<gtm::FaceUse*> faceUses() const;
     std::vector<std::string> unresolvableNames() const;
 
-    /// The face uses shared with another boundary; empty for null.
+    /// The face uses shared with another boundary; empty for null and for one of another set-up.
     std::vector<gtm::FaceUse*> overlap(const Boundary* other) const;
 
     /// The boundaries that share face uses with this one, in the location model's order; null stands for

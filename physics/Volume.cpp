@@ -50,7 +50,8 @@ std::vector<std::string> Volume::unresolvableNames() const { return m_interior->
 
 std::vector<gtm::Body*> Volume::overlap(const Volume* other) const
 {
-    return other == nullptr ? std::vector<gtm::Body*>() : m_interior->overlap(other->m_interior);
+    return other == nullptr || other->physics() != m_physics ? std::vector<gtm::Body*>()
+                                                             : m_interior->overlap(other->m_interior);
 }
 
 std::vector<Volume*> Volume::overlappingVolumes() const

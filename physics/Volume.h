@@ -76,7 +76,7 @@ public:
     std::vector<gtm::Face*> unusedInternalFaces() const;
     std::vector<std::string> unresolvableNames() const;
 
-    /// The bodies shared with another volume; empty for null.
+    /// The bodies shared with another volume; empty for null and for a volume of another set-up.
     std::vector<gtm::Body*> overlap(const Volume* other) const;
 
     /// The volumes registered under the names of the overlapping interiors, in the location model's order;

@@ -200,6 +200,14 @@ TEST_F(BoundaryTest, overlapsWithOtherBoundaries)
     EXPECT_EQ(wall->overlap(nullptr), std::vector<gtm::FaceUse*>{});
 }
 
+TEST_F(BoundaryTest, sharesNothingWithABoundaryOfAnotherSetUp)
+{
+    Physics other(world.model(), false);
+    Volume* theirs = other.createVolume("both", std::string("left, right"), VolumeType::Fluid);
+
+    EXPECT_EQ(wall->overlap(theirs->createBoundary("wall", std::string("middle"))), std::vector<gtm::FaceUse*>{});
+}
+
 // ---- Types
 
 TEST_F(BoundaryTest, takesTypesThatItsVolumeAllows)

@@ -402,6 +402,14 @@ TEST_F(VolumeTest, overlapsWithOtherVolumes)
     EXPECT_EQ(fluid->overlappingVolumes(), Volumes{both});
 }
 
+TEST_F(VolumeTest, sharesNothingWithAVolumeOfAnotherSetUp)
+{
+    Physics other(world.model(), false);
+
+    EXPECT_EQ(fluid->overlap(other.createVolume("both", std::string("left, right"), VolumeType::Fluid)),
+              std::vector<gtm::Body*>{});
+}
+
 TEST_F(VolumeTest, listsNullForOverlappingInteriorsThatAreNoVolume)
 {
     Volume* other = volume("other", "right");
