@@ -19,12 +19,20 @@ inline const bool keepsMemory = mallopt(M_TRIM_THRESHOLD, -1) == 1 && mallopt(M_
 /// stands still.
 inline void fillCaches()
 {
-    constexpr std::size_t moreThanCached = 128U << 20U; // bytes
+    constexpr std::size_t moreThanCached = 64U << 20U; // bytes
     constexpr std::size_t cacheLine = 64;
     static std::vector<char> other(moreThanCached);
     for (std::size_t i = 0; i < other.size(); i += cacheLine)
         ++other[i];
     benchmark::ClobberMemory();
+}
+
+/// The same within a measurement that is under way.
+inline void coolDown(benchmark::State& state)
+{
+    state.PauseTiming();
+    fillCaches();
+    state.ResumeTiming();
 }
 
 } // namespace benchmarks

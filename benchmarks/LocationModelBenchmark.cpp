@@ -1,7 +1,9 @@
 // The bundled location model at full size: a row of bodies, each sharing a face with the next, ten faces a
 // body, one boundary a face use. `boundaries` is the size; times are for all of them together, and
-// `perBoundary` should hardly grow with the size.
+// `perBoundary` should hardly grow with the size. Each measurement begins with other things in the processor's
+// caches.
 
+#include "benchmarks/Caches.h"
 #include "gtm/LocationModel.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyBuilder.h"
@@ -86,11 +88,6 @@ public:
     std::vector<Boundary*> boundaries;
 };
 
-Volumes volumesOf(const benchmark::State& state)
-{
-    return state.range(1) == 0 ? Volumes::OnePerBody : Volumes::OneForAll;
-}
-
 void setCounters(benchmark::State& state)
 {
     state.counters["perBoundary"] =
@@ -98,40 +95,38 @@ void setCounters(benchmark::State& state)
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-void makeSizes(benchmark::internal::Benchmark* benchmark)
+void sizes(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->ArgNames({"boundaries", "oneVolume"})->Unit(benchmark::kMillisecond);
-    for (const int oneVolume : {0, 1}) {
-        for (const int size : {1000, 10000, 100000}) {
-            benchmark->Args({size, oneVolume});
-        }
-    }
+    benchmark->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 }
 
 void buildTopology(benchmark::State& state)
 {
     for (auto _ : state) {
+        benchmarks::coolDown(state);
         benchmark::DoNotOptimize(makeModel(state.range(0)));
     }
     setCounters(state);
 }
-BENCHMARK(buildTopology)->ArgName("boundaries")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(buildTopology)->Name("build the topology in code")->Apply(sizes);
 
 void readTopologyFile(benchmark::State& state)
 {
     const std::string text = writeTopology(*makeModel(state.range(0)));
     for (auto _ : state) {
+        benchmarks::coolDown(state);
         benchmark::DoNotOptimize(gtm::bundled::readTopologyText(text, "benchmark"));
     }
     setCounters(state);
 }
-BENCHMARK(readTopologyFile)->ArgName("boundaries")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(readTopologyFile)->Name("read it from a topology file")->Apply(sizes);
 
-void createAndDestroy(benchmark::State& state)
+void createAndDestroy(benchmark::State& state, Volumes volumes)
 {
     const auto model = makeModel(state.range(0));
     for (auto _ : state) {
-        SetUp setUp(*model, volumesOf(state), true);
+        benchmarks::coolDown(state);
+        SetUp setUp(*model, volumes, true);
         for (Boundary* boundary : setUp.boundaries) {
             boundary->destroy();
         }
@@ -141,14 +136,20 @@ void createAndDestroy(benchmark::State& state)
     }
     setCounters(state);
 }
-BENCHMARK(createAndDestroy)->Apply(makeSizes);
+BENCHMARK_CAPTURE(createAndDestroy, many, Volumes::OnePerBody)
+    ->Name("create and destroy, a volume for each body")
+    ->Apply(sizes);
+BENCHMARK_CAPTURE(createAndDestroy, one, Volumes::OneForAll)
+    ->Name("create and destroy, one volume for all")
+    ->Apply(sizes);
 
 /// Boundaries that find their faces by a pattern.
-void createByPattern(benchmark::State& state)
+void createByPattern(benchmark::State& state, Volumes volumes)
 {
     const auto model = makeModel(state.range(0));
     for (auto _ : state) {
-        SetUp setUp(*model, volumesOf(state), false);
+        benchmarks::coolDown(state);
+        SetUp setUp(*model, volumes, false);
         std::size_t i = 0;
         for (gtm::Body* body : model->bodies()) {
             Interior* interior = setUp.interiors.size() == 1 ? setUp.interiors.front() : setUp.interiors[i++];
@@ -159,14 +160,20 @@ void createByPattern(benchmark::State& state)
     }
     setCounters(state);
 }
-BENCHMARK(createByPattern)->Apply(makeSizes);
+BENCHMARK_CAPTURE(createByPattern, many, Volumes::OnePerBody)
+    ->Name("create by patterns, a volume for each body")
+    ->Apply(sizes);
+BENCHMARK_CAPTURE(createByPattern, one, Volumes::OneForAll)
+    ->Name("create by patterns, one volume for all")
+    ->Apply(sizes);
 
 /// Every state, pair and overlap, and what the interiors leave unused.
-void queryAll(benchmark::State& state)
+void queryAll(benchmark::State& state, Volumes volumes)
 {
     const auto model = makeModel(state.range(0));
-    SetUp setUp(*model, volumesOf(state), true);
+    SetUp setUp(*model, volumes, true);
     for (auto _ : state) {
+        benchmarks::coolDown(state);
         for (Boundary* boundary : setUp.boundaries) {
             benchmark::DoNotOptimize(boundary->state());
             benchmark::DoNotOptimize(boundary->pair());
@@ -183,15 +190,21 @@ void queryAll(benchmark::State& state)
     }
     setCounters(state);
 }
-BENCHMARK(queryAll)->Apply(makeSizes);
+BENCHMARK_CAPTURE(queryAll, many, Volumes::OnePerBody)
+    ->Name("ask for state, pair and overlaps of each, a volume for each body")
+    ->Apply(sizes);
+BENCHMARK_CAPTURE(queryAll, one, Volumes::OneForAll)
+    ->Name("ask for state, pair and overlaps of each, one volume for all")
+    ->Apply(sizes);
 
 /// Masks and unmasks each body by itself, with the default interior and boundaries active.
-void maskEachBody(benchmark::State& state)
+void maskEachBody(benchmark::State& state, Volumes volumes)
 {
     const auto model = makeModel(state.range(0));
-    SetUp setUp(*model, volumesOf(state), true);
+    SetUp setUp(*model, volumes, true);
     setUp.copy.activateDefaultInterior(true);
     for (auto _ : state) {
+        benchmarks::coolDown(state);
         for (gtm::Body* body : model->bodies()) {
             setUp.copy.mask({body});
             benchmark::DoNotOptimize(setUp.copy.maskedFaceUses());
@@ -200,7 +213,12 @@ void maskEachBody(benchmark::State& state)
     }
     setCounters(state);
 }
-BENCHMARK(maskEachBody)->Apply(makeSizes);
+BENCHMARK_CAPTURE(maskEachBody, many, Volumes::OnePerBody)
+    ->Name("mask and unmask each body by itself, a volume for each body")
+    ->Apply(sizes);
+BENCHMARK_CAPTURE(maskEachBody, one, Volumes::OneForAll)
+    ->Name("mask and unmask each body by itself, one volume for all")
+    ->Apply(sizes);
 
 /// The default interior loses a body at a time to interiors of their own, and gets it back.
 void growOutOfTheDefaultInterior(benchmark::State& state)
@@ -213,6 +231,7 @@ void growOutOfTheDefaultInterior(benchmark::State& state)
         copy.defaultInterior()->createBoundary(faceUse->id(), faceUse->id(), true);
     }
     for (auto _ : state) {
+        benchmarks::coolDown(state);
         for (gtm::Body* body : model->bodies()) {
             Interior* own = copy.createInterior(body->id(), body->id(), false, true).first;
             own->relocate(std::vector<gtm::Region*>{body}, true);
@@ -222,11 +241,8 @@ void growOutOfTheDefaultInterior(benchmark::State& state)
     setCounters(state);
 }
 BENCHMARK(growOutOfTheDefaultInterior)
-    ->ArgName("boundaries")
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(100000)
-    ->Unit(benchmark::kMillisecond);
+    ->Name("take each body out of a default volume full of boundaries, and give it back")
+    ->Apply(sizes);
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // The listing of a set-up at full size, beside writing the same bytes from memory. `boundaries` is the
 // size: ten for each volume, or all on one volume; `toWriting` is how many times longer the listing takes.
 
+#include "benchmarks/Caches.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyBuilder.h"
 #include "physics/Boundary.h"
@@ -79,6 +80,7 @@ void report(benchmark::State& state, Volumes volumes)
     std::string text;
     double seconds = 0;
     for ([[maybe_unused]] auto iteration : state) {
+        benchmarks::coolDown(state);
         std::ostringstream stream;
         const std::clock_t start = std::clock();
         setUp->dump(stream);
@@ -95,8 +97,16 @@ void report(benchmark::State& state, Volumes volumes)
 void manyVolumes(benchmark::State& state) { report(state, Volumes::OnePerBody); }
 void oneVolume(benchmark::State& state) { report(state, Volumes::OneForAll); }
 
-BENCHMARK(manyVolumes)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(oneVolume)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(manyVolumes)
+    ->Name("ten boundaries a volume")
+    ->RangeMultiplier(10)
+    ->Range(1000, 1000000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(oneVolume)
+    ->Name("one volume with all boundaries")
+    ->RangeMultiplier(10)
+    ->Range(1000, 1000000)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

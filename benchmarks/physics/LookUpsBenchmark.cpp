@@ -1,7 +1,9 @@
 // Finding objects by their keys, beside plain containers of the standard library with the same keys, which are
 // the limit. The argument is the number of boundaries of the case; everything is looked up once, in an order
-// that has nothing to do with the keys, and `perObject` is the time of one look-up.
+// that has nothing to do with the keys and with other things in the processor's caches at first. `perObject` is the
+// time of one look-up.
 
+#include "benchmarks/Caches.h"
 #include "benchmarks/Case.h"
 #include "physics/Boundary.h"
 #include "physics/Physics.h"
@@ -127,6 +129,7 @@ void lookUp(benchmark::State& state)
     const std::vector<int> keys = shuffled(Key::keys(setUp));
     const Finder finder(setUp, keys);
     for ([[maybe_unused]] auto iteration : state) {
+        benchmarks::coolDown(state);
         std::size_t found = 0;
         for (const int key : keys)
             found += finder.find(key) != nullptr ? 1 : 0;

@@ -32,8 +32,6 @@ using benchmarks::Case;
 using peers::Peer;
 using physics::Physics;
 
-constexpr std::int64_t largest = 100000;
-
 /// A case and what it is measured by. Made once for each size.
 struct Sample {
     explicit Sample(std::int64_t noOfBoundaries)
@@ -246,13 +244,15 @@ void scanNumbers(benchmark::State& state)
 // ----
 
 template <class Function>
-void add(const std::string& name, Function&& function)
+void add(const std::string& name, Function&& function, std::int64_t largest = 1000000)
 {
     benchmark::RegisterBenchmark(name.c_str(), std::forward<Function>(function))
         ->RangeMultiplier(10)
         ->Range(1000, largest)
         ->Unit(benchmark::kMillisecond);
 }
+
+constexpr std::int64_t largestOfPeers = 100000;
 
 void addAll(const std::vector<std::unique_ptr<Peer>>& others)
 {
@@ -261,11 +261,13 @@ void addAll(const std::vector<std::unique_ptr<Peer>>& others)
     add("write/limit: copy the bytes", copyBytes);
     add("write/limit: format the numbers and copy the bytes", formatAndCopy);
     for (const auto& peer : others)
-        add("write/" + peer->name(), [&peer](benchmark::State& state) { writeOf(state, *peer); });
+        add(
+            "write/" + peer->name(), [&peer](benchmark::State& state) { writeOf(state, *peer); }, largestOfPeers);
     add("read/this library", read);
     add("read/limit: scan the numbers", scanNumbers);
     for (const auto& peer : others)
-        add("read/" + peer->name(), [&peer](benchmark::State& state) { readOf(state, *peer); });
+        add(
+            "read/" + peer->name(), [&peer](benchmark::State& state) { readOf(state, *peer); }, largestOfPeers);
     add("restore/into an empty set-up", [](benchmark::State& state) { restore(state, true); });
     add("restore/over a set-up", [](benchmark::State& state) { restore(state, false); });
     add("restore/of this, the location model", fillLocationModel);

@@ -82,14 +82,6 @@ SetUp manyVolumesScattered(std::int64_t size) { return manyVolumes(size, true); 
 SetUp oneVolumeSound(std::int64_t size) { return oneVolume(size, false); }
 SetUp oneVolumeFaulty(std::int64_t size) { return oneVolume(size, true); }
 
-/// See `benchmarks::fillCaches`.
-void coolDown(benchmark::State& state)
-{
-    state.PauseTiming();
-    benchmarks::fillCaches();
-    state.ResumeTiming();
-}
-
 void report(benchmark::State& state)
 {
     state.counters["boundaries"] = static_cast<double>(state.range(0));
@@ -104,7 +96,7 @@ void validate(benchmark::State& state)
 {
     const SetUp setUp = make(state.range(0));
     for ([[maybe_unused]] auto _ : state) {
-        coolDown(state);
+        benchmarks::coolDown(state);
         benchmark::DoNotOptimize(setUp.physics->validate(true, false).size());
     }
     report(state);
@@ -116,7 +108,7 @@ void check(benchmark::State& state)
 {
     const SetUp setUp = make(state.range(0));
     for ([[maybe_unused]] auto _ : state) {
-        coolDown(state);
+        benchmarks::coolDown(state);
         benchmark::DoNotOptimize(physics::apps::check(*setUp.physics, *setUp.model, {}, false).objects.size());
     }
     report(state);
@@ -124,17 +116,21 @@ void check(benchmark::State& state)
 
 void sizes(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK(validate<manyVolumesInOrder>)->Apply(sizes);
-BENCHMARK(validate<manyVolumesScattered>)->Apply(sizes);
-BENCHMARK(validate<oneVolumeSound>)->Apply(sizes);
-BENCHMARK(validate<oneVolumeFaulty>)->Apply(sizes);
-BENCHMARK(check<manyVolumesInOrder>)->Apply(sizes);
-BENCHMARK(check<manyVolumesScattered>)->Apply(sizes);
-BENCHMARK(check<oneVolumeSound>)->Apply(sizes);
-BENCHMARK(check<oneVolumeFaulty>)->Apply(sizes);
+BENCHMARK(validate<manyVolumesInOrder>)->Name("validate, many volumes, named in the order of creation")->Apply(sizes);
+BENCHMARK(validate<manyVolumesScattered>)->Name("validate, many volumes, named in another order")->Apply(sizes);
+BENCHMARK(validate<oneVolumeSound>)->Name("validate, one volume, sound")->Apply(sizes);
+BENCHMARK(validate<oneVolumeFaulty>)->Name("validate, one volume, faulty")->Apply(sizes);
+BENCHMARK(check<manyVolumesInOrder>)
+    ->Name("check of the command line, many volumes, named in the order of creation")
+    ->Apply(sizes);
+BENCHMARK(check<manyVolumesScattered>)
+    ->Name("check of the command line, many volumes, named in another order")
+    ->Apply(sizes);
+BENCHMARK(check<oneVolumeSound>)->Name("check of the command line, one volume, sound")->Apply(sizes);
+BENCHMARK(check<oneVolumeFaulty>)->Name("check of the command line, one volume, faulty")->Apply(sizes);
 
 } // namespace
 
