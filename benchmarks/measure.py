@@ -70,8 +70,8 @@ def machine():
         model = re.search(r"model name\s*: (.*)", file.read())
     with open("/etc/os-release", encoding="utf-8") as file:
         system = re.search(r'PRETTY_NAME="(.*)"', file.read())
-    compiler = subprocess.run(["c++", "--version"], check=True, stdout=subprocess.PIPE, text=True).stdout.splitlines()[0]
-    return f"{os.cpu_count()} cores of {model[1] if model else 'an unknown processor'}, {system[1]}, {compiler}"
+    version = subprocess.run(["g++", "-dumpfullversion"], check=True, stdout=subprocess.PIPE, text=True).stdout.strip()
+    return f"{os.cpu_count()} cores of {model[1] if model else 'an unknown processor'}, {system[1]}, GCC {version}"
 
 
 def run(folder, name, quick):
