@@ -6,10 +6,8 @@
 #include "locationmodel/TopologyFile.h"
 
 #ifdef PHYSICS_HAS_CAD
-#include "apps/ChildProcess.h"
+#include "apps/ReadInChild.h"
 #include "importers/cad/CadReader.h"
-
-#include <nlohmann/json.hpp>
 #endif
 
 #ifdef PHYSICS_HAS_CGNS
@@ -17,7 +15,6 @@
 #endif
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 namespace physics::apps {
@@ -32,37 +29,17 @@ std::string extensionOf(const std::filesystem::path& file)
 }
 
 #ifdef PHYSICS_HAS_CAD
-/// What is read, or why it cannot be, as a text.
-std::string readCadAsText(const std::filesystem::path& file, std::optional<bool> imprint)
+GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
 {
-    nlohmann::json answer;
-    try {
+    const Reading reading = readInChild(file.string(), "the geometry kernel", [&]() -> Reading {
         gtm::bundled::CadOptions options;
         options.imprint = imprint;
         const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);
-        answer = {{"topology", writeTopology(*result.model)}, {"notes", result.notes}};
-    } catch (const std::exception& error) {
-        answer = {{"error", error.what()}};
-    }
-    return answer.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-}
-
-/// In a child process: damaged geometry can make the geometry kernel crash.
-GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
-{
-    nlohmann::json answer;
-    try {
-        answer = nlohmann::json::parse(answerOfChild([&] { return readCadAsText(file, imprint); }));
-    } catch (const ChildDied& how) {
-        throw InputError(file.string() + ": the geometry kernel broke down over this file (" + how.what() +
-                         "), so it is probably damaged; copy or export it again.");
-    }
-    if (answer.contains("error")) {
-        throw InputError(answer["error"].get<std::string>());
-    }
+        return {writeTopology(*result.model), result.notes};
+    });
     GeometryFile geometry;
-    geometry.model = gtm::bundled::readTopologyText(answer["topology"].get<std::string>(), file.string());
-    geometry.notes = answer["notes"].get<std::vector<std::string>>();
+    geometry.model = gtm::bundled::readTopologyText(reading.topology, file.string());
+    geometry.notes = reading.notes;
     return geometry;
 }
 #else

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace physics::apps {
+
+/// What a reader makes of a geometry file, in a form that goes from process to process.
+struct Reading {
+    std::string topology; ///< as in a topology file
+    std::vector<std::string> notes;
+};
+
+/// Runs a reader in a child process, because libraries that read geometry can crash over a damaged file. Throws
+/// `InputError` with what the reader throws, or, after a crash, with a sentence about the file that names the
+/// `library`: "the geometry kernel".
+Reading readInChild(const std::string& file, const std::string& library, const std::function<Reading()>& read);
+
+} // namespace physics::apps
