@@ -317,6 +317,21 @@ TEST_F(BoundaryTest, movesItsShellSettingsToAnotherModel)
     EXPECT_EQ(after->settings(), SettingsList{settings});
 }
 
+TEST_F(BoundaryTest, movesTheShellSettingsOfAllItsPatches)
+{
+    Model* before = physics.createModel();
+    Model* after = physics.createModel();
+    Interface* joint = interface("joint", wall, opposite);
+    wall->setShellModel(before);
+    const SettingsList settings = {wall->shellSettings(nullptr), wall->shellSettings(joint)};
+
+    wall->setShellModel(after);
+
+    EXPECT_EQ(after->shellSettings(wall), settings);
+    EXPECT_EQ(settings.back()->model(), after);
+    EXPECT_EQ(before->settings(), SettingsList{});
+}
+
 TEST_F(BoundaryTest, theSameShellModelAgainChangesNothing)
 {
     Model* shell = physics.createModel();
@@ -342,6 +357,20 @@ TEST_F(BoundaryTest, takingTheShellOffEndsItsSettings)
     EXPECT_EQ(shell->boundaries(), Boundaries{});
     wall->setShellModel(nullptr);
     EXPECT_EQ(wall->shellModel(), nullptr);
+}
+
+TEST_F(BoundaryTest, takingTheShellOffEndsTheSettingsOfAllPatches)
+{
+    Model* shell = physics.createModel();
+    Interface* joint = interface("joint", wall, opposite);
+    wall->setShellModel(shell);
+    const std::vector<int> ids = {wall->shellSettings(nullptr)->id(), wall->shellSettings(joint)->id()};
+
+    wall->setShellModel(nullptr);
+
+    for (const int id : ids)
+        EXPECT_EQ(physics.findSettingsById(id), nullptr);
+    EXPECT_EQ(shell->settings(), SettingsList{});
 }
 
 TEST_F(BoundaryTest, ignoresAShellModelOfAnotherSetUp)
@@ -495,6 +524,19 @@ TEST_F(BoundaryTest, hasNoBoundarySettingsWithoutAModelOfItsVolume)
     EXPECT_EQ(wall->boundarySettings(nullptr), nullptr);
 }
 
+TEST_F(BoundaryTest, stillListsItsShellSettingsWhenItsVolumeHasNoModel)
+{
+    Model* shell = physics.createModel();
+    wall->setShellModel(shell);
+    Settings* ofShell = wall->nonOverlappingShellSettings();
+
+    fluid->model()->destroy();
+
+    EXPECT_EQ(wall->allBoundarySettings(), SettingsList{});
+    EXPECT_EQ(wall->allShellSettings(), SettingsList{ofShell});
+    EXPECT_EQ(wall->allSettings(), SettingsList{ofShell});
+}
+
 // ---- Zones and external regions
 
 TEST_F(BoundaryTest, listsItsZonesAbsoluteAscendingAndOnce)
@@ -535,6 +577,14 @@ TEST_F(BoundaryTest, hasNoExternalRegionWhereItsInterfacesCoverAllOfIt)
 
     EXPECT_EQ(wall->hasExternalRegion(), 0);
     EXPECT_EQ(opposite->hasExternalRegion(), 0);
+}
+
+TEST_F(BoundaryTest, hasNoExternalRegionInAnInterfaceWhenItIsEmpty)
+{
+    interface("joint", wall, opposite);
+    answers().faceUses.emplace();
+
+    EXPECT_EQ(wall->hasExternalRegion(), 0);
 }
 
 TEST_F(BoundaryTest, isCoveredByTheOtherSidesOfAllItsInterfacesTogether)

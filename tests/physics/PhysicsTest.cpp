@@ -12,6 +12,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -36,6 +37,12 @@ class PhysicsTest : public PhysicsCase {
 protected:
     Boundary* boundaryOf(Volume* owner, const std::string& name) { return owner->createBoundary(name, "inlet"); }
 };
+
+TEST_F(PhysicsTest, isNeitherCopiedNorMoved)
+{
+    EXPECT_FALSE(std::is_copy_constructible_v<Physics> || std::is_copy_assignable_v<Physics>);
+    EXPECT_FALSE(std::is_move_constructible_v<Physics> || std::is_move_assignable_v<Physics>);
+}
 
 TEST_F(PhysicsTest, beginsEmpty)
 {
@@ -877,6 +884,16 @@ TEST_F(PhysicsTest, clearKeepsFlags)
     EXPECT_FALSE(physics.enforceRestrictions());
     EXPECT_EQ(printed.text(), "Error: Could not create volume \"a\" at location: \"nowhere\"\n"
                               "       State = empty\n");
+}
+
+TEST_F(PhysicsTest, clearKeepsTypeTablesThatWereReadBack)
+{
+    ASSERT_TRUE(physics.restore(physics.serialise()));
+    ASSERT_EQ(physics.defaultBoundaryType(VolumeType::Solid), BoundaryType::VelocityInlet);
+
+    physics.clear();
+
+    EXPECT_EQ(physics.defaultBoundaryType(VolumeType::Solid), BoundaryType::VelocityInlet);
 }
 
 TEST_F(PhysicsTest, endedInterfacesStayReadableAfterClear)

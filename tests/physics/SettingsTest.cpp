@@ -143,6 +143,15 @@ TEST_F(SettingsTest, ofAPatchDoNotLookAtItsInterface)
     EXPECT_FALSE(contact->settings()->isActive());
 }
 
+TEST_F(SettingsTest, ofAnInterfaceAreActiveWhileBothItsVolumesAre)
+{
+    Settings* ofContact = join(hotWall, coldWall)->settings();
+
+    EXPECT_TRUE(ofContact->isActive());
+    hot->deactivate();
+    EXPECT_FALSE(ofContact->isActive());
+}
+
 TEST_F(SettingsTest, ofInternalFacesAreActiveWhileThereAreUnusedOnes)
 {
     Settings* internal = hot->internalSettings();

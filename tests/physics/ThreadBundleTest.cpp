@@ -218,6 +218,18 @@ TEST_F(ThreadBundleTest, cannotTakeAZoneThatAnotherIsFoundUnder)
     EXPECT_EQ(physics.findThreadBundleByZoneId(3), bundle);
 }
 
+TEST_F(ThreadBundleTest, mayTakeTheZonesAgainThatItHasOrInherits)
+{
+    ThreadBundle* bundle = on(hot->settings(), 1);
+
+    EXPECT_TRUE(bundle->setZoneIds({1, 3}));
+    EXPECT_TRUE(bundle->setZoneIds({3, 4}));
+
+    EXPECT_EQ(bundle->zoneIds(), (Ids{3, 4}));
+    EXPECT_EQ(physics.findThreadBundleByZoneId(1), nullptr);
+    EXPECT_EQ(physics.findThreadBundleByZoneId(3), bundle);
+}
+
 TEST_F(ThreadBundleTest, cannotTakeAZoneThatAnotherInheritedWhenItWasMade)
 {
     on(hot->settings(), 1);
@@ -365,6 +377,31 @@ TEST_F(ThreadBundleTest, ofSettingsWhoseSubjectEndedHasNeitherZonesNorNeighbours
     EXPECT_EQ(physics.findThreadBundleByThreadId(3), detached);
     EXPECT_EQ(detached->zoneIds(), Ids{});
     EXPECT_EQ(detached->adjacentThreadBundles(), Adjacent(nullptr, nullptr, nullptr, false));
+}
+
+TEST_F(ThreadBundleTest, makesTheSettingsInWhichItLooksForItsNeighbours)
+{
+    Interface* contact = join(hotWall, coldWall);
+    ThreadBundle* onHot = on(hotWall->boundarySettings(contact), 3);
+    ASSERT_EQ(model->volumeSettings(), SettingsList{});
+    ASSERT_EQ(model->volumeSettings(coldWall).size(), 1u);
+
+    onHot->adjacentThreadBundles();
+
+    EXPECT_EQ(model->volumeSettings(), (SettingsList{hot->settings(), cold->settings()}));
+    EXPECT_EQ(model->volumeSettings(coldWall).size(), 2u);
+}
+
+TEST_F(ThreadBundleTest, ofInternalFacesOrOfAnInterfaceHasNoNeighboursWithoutModel)
+{
+    ThreadBundle* inside = on(hot->internalSettings(), 1);
+    ThreadBundle* between = on(join(hotWall, coldWall)->settings(), 2);
+    on(hot->settings(), 3);
+
+    model->destroy();
+
+    EXPECT_EQ(inside->adjacentThreadBundles(), Adjacent(nullptr, nullptr, nullptr, false));
+    EXPECT_EQ(between->adjacentThreadBundles(), Adjacent(nullptr, nullptr, nullptr, false));
 }
 
 TEST_F(ThreadBundleTest, withoutModelHasNoNeighbours)

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -138,6 +139,20 @@ TEST_F(Validation, aRegionIsValidWhenBothItsTopologyAndItsPhysicsAre)
     scripted::answersOf(sound->boundary()).state = gtm::Boundary::State::Overlapping;
     EXPECT_TRUE(sound->isPhysicsValid(false));
     EXPECT_FALSE(sound->isValid(false));
+}
+
+TEST_F(Validation, theRulesAreNotAskedWhenTheTopologyIsInvalid)
+{
+    Volume* duct = volume("duct");
+    const Boundary* wrongType = faulty(duct, "wrong");
+    scripted::answersOf(wrongType->boundary()).state = gtm::Boundary::State::Overlapping;
+    world.answers().isValid = false;
+
+    world.throwOn("name"); // which a rule asks for in its complaint
+
+    EXPECT_FALSE(wrongType->isValid(true));
+    EXPECT_FALSE(physics.isValid(true));
+    EXPECT_THROW(wrongType->isPhysicsValid(true), std::runtime_error);
 }
 
 TEST_F(Validation, answersFollowEveryChangeAtOnce)

@@ -644,6 +644,22 @@ TEST_F(NonSharedMeshes, areReportedWhenABundleAsksForItsZones)
     EXPECT_EQ(atTheList.text(), message);
 }
 
+TEST_F(NonSharedMeshes, areReportedWhenABundleReleasesItsZones)
+{
+    Settings* settings = fluid->internalSettings();
+    physics::ThreadBundle* bundle = settings->createThreadBundle(0, physics::ThreadType::Interior, 1, {});
+    reportCreationFailures(physics);
+    const std::string message = "Error: Non-shared meshes on internal faces in volume \"fluid\n";
+
+    const PrintedText atTheChange;
+    EXPECT_TRUE(bundle->setZoneIds({}));
+    EXPECT_EQ(atTheChange.text(), message);
+
+    const PrintedText atTheEnd;
+    EXPECT_TRUE(settings->deleteThreadBundle(0));
+    EXPECT_EQ(atTheEnd.text(), message);
+}
+
 TEST_F(NonSharedMeshes, areReportedWhenAnElementDiffers)
 {
     reportCreationFailures(physics);

@@ -524,6 +524,106 @@ const std::vector<std::string> operations = {
     "setMaskedBodies", "activateDefaultInterior", "createInterior", "activateDefaultBoundary",
     "createBoundary",  "createInterface",         "clear",          "rename"};
 
+// ---- What only a text can make
+
+/// The full set-up from a text in which the first interface has settings of its own for its patch 3, that
+/// of boundary 1: the object 5, with the thread 70. It is in model 1, so it stands before that of model 2.
+class InterfaceSideSettings : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::vector<std::string> lines = linesOf(set.physics->serialise());
+        lines[38] = "5 1 2 3 4 5";
+        lines[53] = "2 3 5";
+        lines.insert(lines.end() - 2, {"0 5 2 1 1 -1 3 -1", "1", "0 0 70 3 0", "0"});
+        text = joined(lines);
+        ASSERT_EQ(set.physics->checkSerialised(text), Names());
+        ASSERT_TRUE(set.physics->restore(text));
+        contact = set.physics->findInterfaceById(1);
+        rare = set.physics->findSettingsById(5);
+        ASSERT_NE(rare, nullptr);
+    }
+
+    FullSetUp set;
+    std::string text;
+    Interface* contact = nullptr;
+    Settings* rare = nullptr;
+};
+
+TEST_F(InterfaceSideSettings, areListedByTheirModelBehindThoseOfTheOtherSides)
+{
+    Model* model = contact->model();
+
+    EXPECT_EQ(rare->type(), SettingsType::InterfaceSettings);
+    EXPECT_EQ(rare->topologyType(), TopologyType::Boundary);
+    EXPECT_EQ(rare->boundaryPatch(), contact->boundary(Side::First)->patch(contact));
+    EXPECT_EQ(idsOf(model->boundaryPatchSettings()), (Ids{1, 2, 5}));
+    EXPECT_EQ(idsOf(model->settings()), (Ids{1, 2, 3, 5}));
+    EXPECT_EQ(set.physics->findSettingsByThreadId(70), rare);
+    EXPECT_EQ(set.physics->serialise(), text);
+}
+
+TEST_F(InterfaceSideSettings, areHandedOutByNoLookUp)
+{
+    Boundary* hot = contact->boundary(Side::First);
+
+    EXPECT_EQ(contact->model()->settings(rare->boundaryPatch(), SettingsType::InterfaceSettings), nullptr);
+    EXPECT_EQ(contact->boundaryInterfaceSettings(Side::First), nullptr);
+    EXPECT_EQ(hot->interfaceSettings(contact), nullptr);
+    EXPECT_EQ(hot->allInterfaceSettings(), std::vector<Settings*>());
+}
+
+TEST_F(InterfaceSideSettings, moveWithTheInterface)
+{
+    Model* before = contact->model();
+    Model* after = set.physics->findModelById(2);
+
+    contact->setModel(after);
+
+    EXPECT_EQ(rare->model(), after);
+    EXPECT_EQ(idsOf(after->boundaryPatchSettings()), (Ids{4, 5}));
+    EXPECT_EQ(idsOf(before->boundaryPatchSettings()), (Ids{1, 2}));
+    EXPECT_EQ(set.physics->findSettingsByThreadId(70), rare);
+}
+
+TEST_F(InterfaceSideSettings, endWithTheInterface)
+{
+    Model* model = contact->model();
+
+    contact->destroy();
+
+    EXPECT_EQ(set.physics->findSettingsById(5), nullptr);
+    EXPECT_EQ(set.physics->findThreadBundleByThreadId(70), nullptr);
+    EXPECT_EQ(idsOf(model->boundaryPatchSettings()), (Ids{1, 2}));
+}
+
+TEST_F(InterfaceSideSettings, endWithTheirPatchWhenTheInterfaceIsRelocated)
+{
+    Boundary* other = set.physics->findVolumeById(1)->createBoundary("other", std::string("shared@left"));
+
+    contact->relocate(other, contact->boundary(Side::Second), false);
+
+    EXPECT_EQ(set.physics->findSettingsById(5), nullptr);
+    EXPECT_EQ(set.physics->findThreadBundleByThreadId(70), nullptr);
+}
+
+TEST(RestoredGroups, makeActiveWhateverTheyListWhicheverGroupThatIsIn)
+{
+    FullSetUp set;
+    std::vector<std::string> lines = linesOf(set.physics->serialise());
+    lines[40] = "2";
+    lines[42] += "\n2\n1 2"; // group 2 lists the volume of group 1 once more
+    ASSERT_TRUE(set.physics->restore(joined(lines)));
+    const Volume* solid = set.physics->findVolumeById(2);
+    ASSERT_EQ(solid->activationGroup(), 1);
+
+    EXPECT_TRUE(set.physics->activateGroup(2));
+
+    EXPECT_TRUE(solid->isActive());
+    EXPECT_EQ(set.physics->activationGroups(), Ids{1});
+    EXPECT_TRUE(set.physics->activateGroup(1));
+}
+
 TEST(RestoringWithAFailingLocationModel, keepsTheSetUpOrLeavesAnEmptyOne)
 {
     for (const std::string& operation : operations) {
