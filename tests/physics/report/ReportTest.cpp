@@ -255,6 +255,22 @@ TEST(Report, bundleLineStandsBehindThePrefix)
     EXPECT_EQ(stream.str(), "> 1: 101 Fluid [10] {-42, 41}*\n");
 }
 
+TEST(Report, zonesBehindAFullLineOfDomainsShareLinesOfTheirOwn)
+{
+    const setups::Made made = setups::defaults();
+    ThreadBundle* bundle = made->physics->findThreadBundleByThreadId(11);
+    bundle->setDomainIds({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18});
+    bundle->setZoneIds({1001, 1002, 1003, 1004, 1005, 1006, 1007});
+    std::ostringstream stream;
+
+    bundle->dump(stream, "> ");
+
+    // The domains end in column 75, where a list of its own would have to wrap in front of every zone.
+    EXPECT_EQ(stream.str(), "> 0: 11 Fluid [1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18] "
+                            "{1001, 1002, 1003, 1004, 1005, \n> " +
+                                std::string(77, ' ') + "1006, 1007}*\n");
+}
+
 TEST(Report, domainTableStandsBehindThePrefix)
 {
     const setups::Made made = setups::defaults();

@@ -8,8 +8,30 @@
 #include "physics/Volume.h"
 #include "tests/physics/PhysicsCase.h"
 
+#include <stdexcept>
+
 namespace physics::setups {
 namespace {
+
+/// Replaces a piece of a text that occurs exactly once.
+void replaceOnce(std::string& text, const std::string& piece, const std::string& replacement)
+{
+    const std::size_t start = text.find(piece);
+    if (start == std::string::npos || text.find(piece, start + 1) != std::string::npos)
+        throw std::logic_error("not exactly once: " + piece + "in: " + text);
+    text.replace(start, piece.size(), replacement);
+}
+
+/// The text of the set-up `readBack` with settings 10 and 11 of the patches 4 and 5 in their interface, which
+/// nothing but a text makes.
+std::string withSettingsInTheInterface(std::string text)
+{
+    replaceOnce(text, "\n9 1 2 3 4 5 6 7 8 9\n", "\n11 1 2 3 4 5 6 7 8 9 10 11\n");
+    replaceOnce(text, "\n8 1 1 2 2 3 3 4 6\n0\n0\n", "\n8 1 1 2 2 3 3 4 6\n0\n4 4 10 5 11\n");
+    replaceOnce(text, "\n9\n0 1 0 1 1 -1 1 -1\n", "\n11\n0 1 0 1 1 -1 1 -1\n");
+    return text + "0 10 2 1 1 -1 4 -1\n0\n"
+                  "0 11 2 1 1 -1 5 -1\n0\n";
+}
 
 /// Adds volumes of the given bodies, from one face to the next like beads on a string.
 struct Chain {
@@ -285,6 +307,66 @@ Made leftBehind()
     return made;
 }
 
+Made warnings()
+{
+    Made made = std::make_unique<SetUp>("warnings");
+    scripted::World& world = made->world;
+    gtm::Body* tank = world.body("tank");
+    world.face("lid", tank);
+    world.face("floor", tank);
+    gtm::Body* spare = world.body("spare"); // in no part and without faces
+    world.judgeStates();
+
+    Physics& physics = made->begin();
+    Volume* full = physics.createVolume("full", std::string("tank"), VolumeType::Fluid);
+    full->createBoundary("lid", std::string("lid"))->addTag(BoundaryTag::Interface);
+    full->createDefaultBoundary("rest");
+    physics.maskBodies({spare});
+    physics.createDefaultVolume("void", VolumeType::Porous)->createDefaultBoundary("edge");
+    return made;
+}
+
+Made readBack()
+{
+    Made made = std::make_unique<SetUp>("read-back");
+    scripted::World& world = made->world;
+    gtm::Body* gas = world.body("gas");
+    world.face("film", gas, world.body("plate"));
+    world.face("vent", gas);
+    world.zones(gas, {1});
+
+    Physics& physics = made->begin();
+    Model* flow = physics.createModel();
+    Volume* fluid = physics.createVolume("gas", std::string("gas"), VolumeType::Fluid, flow);
+    Volume* solid = physics.createVolume("plate", std::string("plate"), VolumeType::Solid, flow);
+    Boundary* hot = fluid->createBoundary("hot", std::string("film@gas"));
+    Boundary* cold = solid->createBoundary("cold", std::string("film@plate"));
+    fluid->createBoundary("vent", std::string("vent"), BoundaryType::Outflow);
+    Interface* contact = physics.createInterface("contact", hot, cold, InterfaceType::Wall, flow);
+    hot->setShellModel(physics.createModel());
+    hot->setShellType(ShellType::HeatConduction);
+    hot->shellSettings(nullptr);
+    hot->shellSettings(contact);
+    hot->boundarySettings(contact);
+    contact->settings();
+    fluid->settings();
+    solid->settings();
+
+    physics.restore(withSettingsInTheInterface(physics.serialise()));
+
+    physics.findSettingsById(10)->createThreadBundle(0, ThreadType::Interface, 21, {1})->setZoneIds({60});
+    physics.findSettingsById(4)->createThreadBundle(0, ThreadType::Solid, 22, {1});
+    // Thread 31 is found under the settings that had it first, which have no such bundle any more.
+    physics.findSettingsById(8)->createThreadBundle(0, ThreadType::Fluid, 31, {1})->setThreadId(32);
+    physics.findSettingsById(9)->createThreadBundle(0, ThreadType::Solid, 33, {1})->setThreadId(31);
+    scripted::InteriorAnswers& plate = scripted::answersOf(physics.findVolumeById(2)->interior());
+    plate.state = gtm::Interior::State::Inconsistent;
+    plate.overlappingInteriors = {nullptr};
+    scripted::answersOf(physics.findInterfaceById(1)->interface()).state =
+        gtm::Interface::State::InconsistentSharedFaces;
+    return made;
+}
+
 std::vector<Made (*)()> all()
 {
     std::vector<Made (*)()> setUps = allWithObjects();
@@ -294,7 +376,7 @@ std::vector<Made (*)()> all()
 
 std::vector<Made (*)()> allWithObjects()
 {
-    return {defaults, periodic, models, inactive, faults, longLists, foreign, leftBehind};
+    return {defaults, periodic, models, inactive, faults, longLists, foreign, leftBehind, warnings, readBack};
 }
 
 } // namespace physics::setups

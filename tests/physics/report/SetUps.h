@@ -34,6 +34,8 @@ Made faults();     // overlaps, unresolvable names, states, types that are not a
 Made longLists();  // lists that wrap
 Made foreign();    // names that are not ASCII, or have blanks
 Made leftBehind(); // a destroyed model, an ended interface, thread ids that nobody is found under
+Made warnings();   // what is wrong only as long as warnings count, an empty default volume, a masked body alone
+Made readBack();   // settings of patches in their interface, other default types, a bundle under another's thread id
 
 std::vector<Made (*)()> all();
 std::vector<Made (*)()> allWithObjects();
