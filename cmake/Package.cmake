@@ -7,13 +7,14 @@ write_basic_package_version_file(physics-config-version.cmake COMPATIBILITY Same
 install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/physics-config.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/physics-config-version.cmake
-  DESTINATION ${PHYSICS_PACKAGE_DIR})
+  DESTINATION ${PHYSICS_PACKAGE_DIR} COMPONENT development)
 
 # `physics` leaves the location model to its user, so that it requires no other package.
 file(RELATIVE_PATH PHYSICS_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 function(physics_pkg_config name description requires)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${name}.pc @ONLY)
-  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT development)
 endfunction()
 physics_pkg_config(physics "${PROJECT_DESCRIPTION}" "")
 physics_pkg_config(LocationModel "Bundled location model of the physics library" "")

@@ -25,6 +25,18 @@ function(physics_target target)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
 endfunction()
 
+# What belongs to one of the Debian packages is installed with its component: libraries, development, program, python.
+# An installed file finds our libraries from where it lies, so that a prefix can be moved. The target
+# `physics-installable` builds all that is installed.
+if(PHYSICS_INSTALL)
+  add_custom_target(physics-installable)
+endif()
+function(physics_installed target folder)
+  file(RELATIVE_PATH libraries /${folder} /${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
+  add_dependencies(physics-installable ${target})
+endfunction()
+
 # Installs a target with its public headers, which are included from the root of the tree here and afterwards. The
 # target becomes a component of the package, by its own name.
 function(physics_install target)
@@ -34,9 +46,10 @@ function(physics_install target)
     return()
   endif()
   install(TARGETS ${target} EXPORT ${target}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-  install(EXPORT ${target} NAMESPACE physics:: FILE ${target}-targets.cmake DESTINATION ${PHYSICS_PACKAGE_DIR})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libraries NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+  install(EXPORT ${target} NAMESPACE physics:: FILE ${target}-targets.cmake DESTINATION ${PHYSICS_PACKAGE_DIR}
+    COMPONENT development)
 endfunction()
 
 # A library of ours twice from one compilation: `<name>-objects`, which tests link because it hides
@@ -59,4 +72,7 @@ function(physics_library name)
   set_target_properties(${name} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
   set_property(GLOBAL APPEND PROPERTY PHYSICS_LIBRARIES ${name})
   physics_install(${name} ${arg_HEADERS})
+  if(PHYSICS_INSTALL)
+    physics_installed(${name} ${CMAKE_INSTALL_LIBDIR})
+  endif()
 endfunction()
