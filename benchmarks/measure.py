@@ -41,9 +41,10 @@ def sizes_of(program, quick):
 
 
 def options(quick, size):
-    """Large cases are measured less often: one run of them is long enough to be steady."""
-    repetitions = 3 if quick or size > 100000 else 5
-    return [f"--benchmark_repetitions={repetitions}", f"--benchmark_min_time={0.005 if quick else 0.05}"]
+    """Large cases are measured less often: they take long, and are steadier."""
+    repetitions = 3 if quick else {1000: 5, 10000: 5, 100000: 3, 1000000: 1}[size]
+    warm_up = ["--benchmark_min_warmup_time=0.001"] if repetitions == 1 else []
+    return [f"--benchmark_repetitions={repetitions}", f"--benchmark_min_time={0.005 if quick else 0.05}", *warm_up]
 
 
 def medians(runs):

@@ -252,7 +252,7 @@ void add(const std::string& name, Function&& function, std::int64_t largest = 10
         ->Unit(benchmark::kMillisecond);
 }
 
-constexpr std::int64_t largestOfPeers = 100000;
+constexpr std::int64_t largestBeside = 100000;
 
 void addAll(const std::vector<std::unique_ptr<Peer>>& others)
 {
@@ -262,14 +262,14 @@ void addAll(const std::vector<std::unique_ptr<Peer>>& others)
     add("write/limit: format the numbers and copy the bytes", formatAndCopy);
     for (const auto& peer : others)
         add(
-            "write/" + peer->name(), [&peer](benchmark::State& state) { writeOf(state, *peer); }, largestOfPeers);
+            "write/" + peer->name(), [&peer](benchmark::State& state) { writeOf(state, *peer); }, largestBeside);
     add("read/this library", read);
     add("read/limit: scan the numbers", scanNumbers);
     for (const auto& peer : others)
         add(
-            "read/" + peer->name(), [&peer](benchmark::State& state) { readOf(state, *peer); }, largestOfPeers);
+            "read/" + peer->name(), [&peer](benchmark::State& state) { readOf(state, *peer); }, largestBeside);
     add("restore/into an empty set-up", [](benchmark::State& state) { restore(state, true); });
-    add("restore/over a set-up", [](benchmark::State& state) { restore(state, false); });
+    add("restore/over a set-up", [](benchmark::State& state) { restore(state, false); }, largestBeside);
     add("restore/of this, the location model", fillLocationModel);
 }
 
