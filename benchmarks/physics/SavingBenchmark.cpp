@@ -269,7 +269,8 @@ void addAll(const std::vector<std::unique_ptr<Peer>>& others)
         add(
             "read/" + peer->name(), [&peer](benchmark::State& state) { readOf(state, *peer); }, largestBeside);
     add("restore/into an empty set-up", [](benchmark::State& state) { restore(state, true); });
-    add("restore/over a set-up", [](benchmark::State& state) { restore(state, false); }, largestBeside);
+    add(
+        "restore/over a set-up", [](benchmark::State& state) { restore(state, false); }, largestBeside);
     add("restore/of this, the location model", fillLocationModel);
 }
 
