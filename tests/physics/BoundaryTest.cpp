@@ -233,6 +233,17 @@ TEST_F(BoundaryTest, refusesATypeThatOneOfItsInterfacesForbids)
     EXPECT_EQ(wall->type(), BoundaryType::Symmetry);
 }
 
+TEST_F(BoundaryTest, asksItsInterfacesAboutItsOwnVolumeOnTheSecondSideToo)
+{
+    interface("fan", opposite, wall, InterfaceType::Fan); // which allows nothing next to a solid
+
+    EXPECT_TRUE(wall->setBoundaryType(BoundaryType::PressureOutlet));
+    EXPECT_FALSE(opposite->setBoundaryType(BoundaryType::Symmetry));
+
+    EXPECT_EQ(wall->type(), BoundaryType::PressureOutlet);
+    EXPECT_EQ(opposite->type(), BoundaryType::Wall);
+}
+
 TEST_F(BoundaryTest, refusesItsPresentTypeWhenThatIsForbidden)
 {
     Boundary* in = solid->createBoundary("in", "outlet", BoundaryType::VelocityInlet);

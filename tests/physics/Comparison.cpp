@@ -210,7 +210,13 @@ void Comparison::checkInterface(Id id, const Interface& interface) const
     agree(the + "name", interface.name(), expected.name);
     agree(the + "type", interface.type(), expected.type);
     agree(the + "periodicity", interface.periodicity(), expected.periodicity);
+    agree(the + "offset", interface.getPeriodicOffset() == expected.offset, true);
     agree(the + "angle", interface.getPeriodicAngle(), expected.angle);
+    agree(the + "origin", interface.getPeriodicOrigin() == expected.origin, true);
+    agree(the + "direction", interface.getPeriodicDirection() == expected.direction, true);
+    agree(the + "mesh connectivity", interface.meshConnectivity(), expected.meshConnectivity);
+    agree(the + "mapped", interface.isMapped(), expected.isMapped);
+    agree(the + "static", interface.isStatic(), expected.isStatic);
     agree(the + "model", idOf(interface.model()), expected.model);
     agree(the + "first boundary", idOf(interface.boundary(Side::First)), expected.first);
     agree(the + "second boundary", idOf(interface.boundary(Side::Second)), expected.second);

@@ -397,8 +397,12 @@ void History::relocateVolume(const Step& step)
         return;
     std::vector<int>& where = m_reference.interiors.at(m_reference.volumes.at(id).interior).bodies;
     if (step.c % 2 == 0) {
-        where = subset(step.b, m_reference.topology.bodies.size());
-        const bool isValid = volume(id)->relocate(bodyRegions(where), false);
+        const std::vector<int> wanted = subset(step.b, m_reference.topology.bodies.size());
+        const bool isEnforced = step.d % 3 == 0;
+        const bool isValid = volume(id)->relocate(bodyRegions(wanted), isEnforced);
+        if (!isValid && isEnforced)
+            return; // and nothing has changed
+        where = wanted;
         const State state = volume(id)->state(); // whether boundaries cover the surface is no matter of its place
         agree("the relocation", isValid, state == State::Valid || state == State::Incomplete);
     } else {
@@ -493,8 +497,12 @@ void History::relocateBoundary(const Step& step)
     reference::Surface& surface = m_reference.surfaces.at(m_reference.boundaries.at(id).surface);
     if (surface.isDefault)
         return;
-    surface.faces = subset(step.b, m_reference.topology.faces.size());
-    const bool isValid = boundary(id)->relocate(faceRegions(surface.faces), false);
+    const std::vector<int> faces = subset(step.b, m_reference.topology.faces.size());
+    const bool isEnforced = step.d % 3 == 0;
+    const bool isValid = boundary(id)->relocate(faceRegions(faces), isEnforced);
+    if (!isValid && isEnforced)
+        return; // and nothing has changed
+    surface.faces = faces;
     agree("the relocation", isValid, boundary(id)->state() == State::Valid);
 }
 
@@ -578,14 +586,16 @@ void History::createPeriodicInterface(const Step& step)
     Boundary* const onSecond = boundary(second);
     if (step.d % 2 == 0) {
         record.periodicity = Periodicity::TranslationallyPeriodic;
-        interfaceWasMade(
-            m_physics->createTranslationallyPeriodicInterface(record.name, onFirst, onSecond, {1, 2, 3}, record.type),
-            id);
+        record.offset = {1, 2, 3};
+        interfaceWasMade(m_physics->createTranslationallyPeriodicInterface(record.name, onFirst, onSecond,
+                                                                           record.offset, record.type),
+                         id);
     } else {
         record.periodicity = Periodicity::RotationallyPeriodic;
         record.angle = step.d;
+        record.direction = {0, 0, 1};
         interfaceWasMade(m_physics->createRotationallyPeriodicInterface(record.name, onFirst, onSecond, record.angle,
-                                                                        {0, 0, 0}, {0, 0, 1}, record.type),
+                                                                        record.origin, record.direction, record.type),
                          id);
     }
 }
@@ -609,13 +619,27 @@ void History::changeInterface(const Step& step)
     interface(id)->setType(record.type);
     record.isMeshValid = step.c % 2 == 0;
     interface(id)->setIsMeshValid(record.isMeshValid);
-    if (step.d % 2 == 0) {
-        record.periodicity = Periodicity::NonPeriodic;
+    record.isMapped = step.c % 4 < 2;
+    interface(id)->setIsMapped(record.isMapped);
+    record.isStatic = step.c % 8 < 4;
+    interface(id)->setIsStatic(record.isStatic);
+    record.meshConnectivity = MeshConnectivity(static_cast<int>(step.c % 2));
+    interface(id)->setMeshConnectivity(record.meshConnectivity);
+    record.periodicity = Periodicity(static_cast<int>(step.d % 3));
+    switch (record.periodicity) {
+    case Periodicity::NonPeriodic:
         interface(id)->setNonPeriodic();
-    } else {
-        record.periodicity = Periodicity::RotationallyPeriodic;
+        break;
+    case Periodicity::TranslationallyPeriodic:
+        record.offset = {double(step.d), 0, 1};
+        interface(id)->setTranslationalPeriodicity(record.offset);
+        break;
+    case Periodicity::RotationallyPeriodic:
         record.angle = step.d;
-        interface(id)->setRotationalPeriodicity(step.d, {1, 1, 1}, {0, 1, 0});
+        record.origin = {1, 1, 1};
+        record.direction = {0, 1, 0};
+        interface(id)->setRotationalPeriodicity(record.angle, record.origin, record.direction);
+        break;
     }
 }
 
@@ -632,8 +656,11 @@ void History::relocateInterface(const Step& step)
     };
     const Id first = side(step.b);
     const Id second = side(step.c);
+    const bool isEnforced = step.d % 3 == 0;
+    const bool isValid = interface(id)->relocate(boundary(first), boundary(second), isEnforced);
+    if (!isValid && isEnforced)
+        return; // and nothing has changed
     m_reference.relocateInterface(id, first, second);
-    const bool isValid = interface(id)->relocate(boundary(first), boundary(second), false);
     agree("the relocation", isValid, interface(id)->state() == State::Valid);
 }
 
@@ -782,6 +809,14 @@ void History::changeThreadBundle(const Step& step)
     else
         record.threads.erase(slot);
     bundle->registerThread(slot, handle);
+    if (step.d % 5 == 0) {
+        record.domains = {domain, 7};
+        bundle->setDomainIds({7, domain, 7});
+    }
+    if (step.d % 7 == 0) {
+        record.threads.clear();
+        bundle->clearThreads();
+    }
 }
 
 void History::setThreadId(const Step& step)

@@ -472,6 +472,18 @@ TEST_F(PhysicsTest, aVolumeWhoseNameWasTakenStaysFoundByIdWhenTheOtherEnds)
     EXPECT_EQ(physics.virtualTopology().interiors(), std::vector<gtm::Interior*>{});
 }
 
+TEST_F(PhysicsTest, aVolumeThatEndsTakesTheListEntryUnderItsPresentNameAlong)
+{
+    Volume* renamed = volume("a");
+    Volume* other = volume("b");
+    renamed->rename("b");
+
+    renamed->destroy();
+
+    EXPECT_EQ(physics.volumes(), Volumes{});
+    EXPECT_EQ(physics.findVolumeById(other->id()), other);
+}
+
 TEST_F(PhysicsTest, twoVolumesWithOneIdStayOwnedAndTheNewerIsFound)
 {
     Volume* older = volume("older");
@@ -584,6 +596,18 @@ TEST_F(PhysicsInterfaceTest, neverListsAnInterfaceThatWasRenamedAndDestroyed)
 
     EXPECT_EQ(physics.interfaces(), Interfaces{});
     EXPECT_EQ(physics.findInterfaceById(joint->id()), nullptr);
+}
+
+TEST_F(PhysicsInterfaceTest, anInterfaceThatEndsTakesTheListEntryUnderItsPresentNameAlong)
+{
+    Interface* renamed = interface("a", hotSide, coldSide);
+    Interface* other = interface("b", hotSide, coldSide);
+    renamed->rename("b");
+
+    renamed->destroy();
+
+    EXPECT_EQ(physics.interfaces(), Interfaces{});
+    EXPECT_EQ(physics.findInterfaceById(other->id()), other);
 }
 
 TEST_F(PhysicsInterfaceTest, refusesMissingAndForeignBoundariesWithoutAWord)
@@ -795,6 +819,18 @@ TEST_F(PhysicsTest, takesRegionsOutOfEveryVolumeThenOutOfEveryBoundary)
                            R"(boundary "wall a": remove([left, inlet]))",
                            R"(boundary "wall b": remove([left, inlet]))",
                        }));
+}
+
+TEST_F(PhysicsTest, saysThatARegionWasTakenOutWhicheverObjectHadIt)
+{
+    boundaryOf(volume("a", "left, far"), "wall");
+    volume("b", "right, loose")->createBoundary("side", "outlet");
+
+    EXPECT_TRUE(physics.removeRegions({far}));         // of the first volume only
+    EXPECT_TRUE(physics.removeRegions({loose}));       // of the last one
+    EXPECT_TRUE(physics.removeRegions({inlet.face}));  // of the first boundary
+    EXPECT_TRUE(physics.removeRegions({outlet.face})); // of the last one
+    EXPECT_FALSE(physics.removeRegions({far, loose, inlet.face, outlet.face}));
 }
 
 TEST_F(PhysicsTest, saysWhetherAnyRegionWasTakenOut)

@@ -306,7 +306,7 @@ Id SetUp::createInterface(const std::string& name, Id first, Id second, physics:
 {
     const Id owner = model != 0 ? model : primaryModel();
     const Id id = ++last.interface;
-    interfaces[id] = {name, type, physics::Periodicity::NonPeriodic, owner, first, second, false, 0};
+    interfaces[id] = {.name = name, .type = type, .model = owner, .first = first, .second = second};
     addToInterface(first, id);
     addToInterface(second, id);
     models[owner].interfaces.insert(id);

@@ -3,6 +3,7 @@
 #include "physics/Types.h"
 #include "tests/gtm/ContractFixture.h"
 
+#include <array>
 #include <cstddef>
 #include <map>
 #include <set>
@@ -80,8 +81,14 @@ struct Interface {
     Id model = 0;
     Id first = 0;
     Id second = 0;
+    physics::MeshConnectivity meshConnectivity = physics::MeshConnectivity::Automatic;
+    bool isMapped = false;
+    bool isStatic = false;
     bool isMeshValid = false;
+    std::array<double, 3> offset = {1, 0, 0};
     double angle = 0;
+    std::array<double, 3> origin = {0, 0, 0};
+    std::array<double, 3> direction = {1, 0, 0};
 };
 
 struct Settings {

@@ -339,6 +339,18 @@ TEST_F(VolumeTest, neverListsABoundaryThatWasRenamedAndDestroyed)
     fluid->destroy();
 }
 
+TEST_F(VolumeTest, aBoundaryThatEndsTakesTheListEntryUnderItsPresentNameAlong)
+{
+    Boundary* renamed = fluid->createBoundary("a", "inlet");
+    Boundary* other = fluid->createBoundary("b", "inlet");
+    renamed->rename("b");
+
+    renamed->destroy();
+
+    EXPECT_EQ(fluid->boundaries(), Boundaries{});
+    EXPECT_EQ(physics.findBoundaryById(other->id()), other);
+}
+
 TEST_F(VolumeTest, endsABoundaryHiddenByAnEqualNameToo)
 {
     const int hidden = fluid->createBoundary("same", "inlet")->id();
