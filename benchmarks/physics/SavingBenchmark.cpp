@@ -37,14 +37,12 @@ struct Sample {
     explicit Sample(std::int64_t noOfBoundaries)
         : original(noOfBoundaries), text(original.setUp.serialise()), graph(peers::graphOf(original.setUp))
     {
-        const auto isPartOfNumber = [](char c) { return c == '-' || (c >= '0' && c <= '9'); };
-        for (const char *at = text.data(), *const end = at + text.size(); at != end;) {
-            const char* const stop = std::find_if_not(at, end, isPartOfNumber);
+        for (const char *at = text.data(), *const end = at + text.size(); at < end;) {
+            const char* const stop = std::find_if(at, end, [](char c) { return c == ' ' || c == '\n'; });
             int number = 0;
-            if (std::from_chars(at, stop, number).ptr == stop && stop != at)
+            if (stop != at && std::from_chars(at, stop, number).ptr == stop)
                 numbers.push_back(number);
-            at = std::find_if(std::find_if(stop, end, [](char c) { return c == ' ' || c == '\n'; }), end,
-                              isPartOfNumber);
+            at = stop + 1;
         }
     }
 
