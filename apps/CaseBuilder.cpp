@@ -1,6 +1,7 @@
 #include "apps/CaseBuilder.h"
 
 #include "apps/CaseFile.h"
+#include "apps/Progress.h"
 #include "gtm/Body.h"
 #include "gtm/Face.h"
 #include "gtm/FaceUse.h"
@@ -50,8 +51,8 @@ std::vector<std::string> idsOf(const gtm::bundled::LocationModel& model)
 
 class Builder {
 public:
-    Builder(const CaseFile& file, const gtm::bundled::LocationModel& model, BuiltCase& built)
-        : m_file(file), m_model(model), m_physics(*built.physics), m_built(built)
+    Builder(const CaseFile& file, const gtm::bundled::LocationModel& model, BuiltCase& built, Progress* progress)
+        : m_file(file), m_model(model), m_physics(*built.physics), m_built(built), m_progress(progress)
     {}
 
     void build();
@@ -86,6 +87,7 @@ private:
                                         const std::string& what);
 
     Model* modelCalled(const std::string& name) const;
+    void step();
     void refuse(std::string path, std::string sentence);
     void refuseByLocationModel(const std::string& path, const std::string& what);
 
@@ -93,6 +95,7 @@ private:
     const gtm::bundled::LocationModel& m_model;
     Physics& m_physics;
     BuiltCase& m_built;
+    Progress* m_progress;
     std::map<std::string, Model*> m_models;
     std::map<std::string, Volume*> m_volumes;
     std::map<std::string, Boundary*> m_boundaries;
@@ -114,6 +117,13 @@ void Builder::build()
     buildThreads();
     for (const CaseFile::Group& group : m_file.deactivated) {
         deactivate(group);
+    }
+}
+
+void Builder::step()
+{
+    if (m_progress != nullptr) {
+        m_progress->step();
     }
 }
 
@@ -197,6 +207,7 @@ Model* Builder::modelCalled(const std::string& name) const
 
 void Builder::buildVolume(const CaseFile::Volume& wanted)
 {
+    step();
     const std::string what = "the volume " + inQuotes(wanted.name);
     Model* model = modelCalled(wanted.model);
     Volume* volume = nullptr;
@@ -224,6 +235,7 @@ void Builder::buildVolume(const CaseFile::Volume& wanted)
 
 void Builder::buildBoundary(const CaseFile::Boundary& wanted, Volume& volume, const std::string& volumeName)
 {
+    step();
     const std::string fullName = volumeName + "::" + wanted.name;
     Boundary* boundary = nullptr;
     if (wanted.location) {
@@ -263,6 +275,7 @@ void Builder::buildShell(const CaseFile::Shell& wanted, Boundary& boundary)
 
 void Builder::buildInterface(const CaseFile::Interface& wanted)
 {
+    step();
     std::array<Boundary*, 2> boundaries{};
     for (std::size_t i = 0; i < boundaries.size(); ++i) {
         const auto found = m_boundaries.find(wanted.sides[i].boundary);
@@ -368,11 +381,20 @@ BuiltCase::BuiltCase(BuiltCase&&) noexcept = default;
 BuiltCase& BuiltCase::operator=(BuiltCase&&) noexcept = default;
 BuiltCase::~BuiltCase() = default;
 
-BuiltCase buildCase(const CaseFile& file, const gtm::bundled::LocationModel& model)
+std::size_t noOfSteps(const CaseFile& file)
+{
+    std::size_t steps = file.volumes.size() + file.interfaces.size();
+    for (const CaseFile::Volume& volume : file.volumes) {
+        steps += volume.boundaries.size();
+    }
+    return steps;
+}
+
+BuiltCase buildCase(const CaseFile& file, const gtm::bundled::LocationModel& model, Progress* progress)
 {
     BuiltCase built;
     built.physics = std::make_unique<Physics>(&model, file.enforceRestrictions);
-    Builder(file, model, built).build();
+    Builder(file, model, built, progress).build();
     return built;
 }
 

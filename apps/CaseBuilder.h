@@ -2,6 +2,7 @@
 
 #include "apps/Problem.h"
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -17,6 +18,7 @@ class Physics;
 
 namespace physics::apps {
 
+class Progress;
 struct CaseFile;
 
 /// A set-up made from a case file.
@@ -37,7 +39,11 @@ struct BuiltCase {
 
 /// Builds the set-up: the mask, then models, volumes with their boundaries, interfaces, solver threads and
 /// groups of deactivated volumes, each in the order of the file. Whatever can be built is built; what needs
-/// something that was refused is refused too. The references of the file must have been checked.
-BuiltCase buildCase(const CaseFile& file, const gtm::bundled::LocationModel& model);
+/// something that was refused is refused too. The references of the file must have been checked. `progress`, which
+/// may be null, is told each step.
+BuiltCase buildCase(const CaseFile& file, const gtm::bundled::LocationModel& model, Progress* progress = nullptr);
+
+/// How many steps that takes: one for each volume, boundary and interface.
+std::size_t noOfSteps(const CaseFile& file);
 
 } // namespace physics::apps

@@ -31,7 +31,7 @@ std::string extensionOf(const std::filesystem::path& file)
 #ifdef PHYSICS_HAS_CAD
 GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
 {
-    const Reading reading = readInChild(file.string(), "the geometry kernel", [&]() -> Reading {
+    const TopologyText reading = readInChild(file.string(), "the geometry kernel", [&]() -> TopologyText {
         gtm::bundled::CadOptions options;
         options.imprint = imprint;
         const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);

@@ -5,6 +5,7 @@
 #include "apps/Complaints.h"
 #include "apps/InputError.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "locationmodel/LocationModel.h"
 #include "physics/Physics.h"
 
@@ -56,8 +57,10 @@ CaseFile readChecked(const JsonSource& source)
 }
 
 /// The name of the geometry file is relative to the case file, so that both can be moved together.
-GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, const std::filesystem::path& caseFile)
+GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, const std::filesystem::path& caseFile,
+                            Output& output)
 {
+    const Progress progress(output, "reading " + file.geometry.file);
     try {
         return readGeometry(caseFile.parent_path() / file.geometry.file, file.geometry.imprint);
     } catch (const InputError& error) {
@@ -68,7 +71,9 @@ GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, cons
 } // namespace
 
 LoadedCase::LoadedCase(const std::filesystem::path& file, Output& output, Restrictions restrictions)
-    : m_source(parse(file)), m_caseFile(readChecked(m_source)), m_geometry(readGeometryOf(m_caseFile, m_source, file))
+    : m_source(parse(file)),
+      m_caseFile(readChecked(m_source)),
+      m_geometry(readGeometryOf(m_caseFile, m_source, file, output))
 {
     for (const std::string& note : m_geometry.notes) {
         output.note(note);
@@ -76,7 +81,10 @@ LoadedCase::LoadedCase(const std::filesystem::path& file, Output& output, Restri
     if (restrictions == Restrictions::Off) {
         m_caseFile.enforceRestrictions = false;
     }
-    m_built = buildCase(m_caseFile, *m_geometry.model);
+    {
+        Progress progress(output, "building " + file.string(), noOfSteps(m_caseFile));
+        m_built = buildCase(m_caseFile, *m_geometry.model, &progress);
+    }
     Complaints complaints;
     add(m_built.refusals, m_source, complaints);
     m_refusals = linesOf(complaints, m_source);

@@ -20,6 +20,12 @@ public:
     /// Makes a command of the shell show what is paged; an empty one, as at first, shows nothing.
     void setPager(std::string command) { m_pager = std::move(command); }
 
+    /// Progress is for terminals too: where it is shown, at first nowhere.
+    void showProgress() { m_isProgressShown = true; }
+
+    /// The stream for lines of progress, or null where none are shown.
+    std::ostream* progress() { return m_isProgressShown ? &m_err : nullptr; }
+
     /// Writes a result that may be longer than a screen: through the pager where there is one.
     void page(const std::string& text);
 
@@ -35,6 +41,7 @@ private:
     std::ostream& m_err;
     bool m_isOutColored;
     bool m_isErrColored;
+    bool m_isProgressShown = false;
     std::string m_pager;
 };
 

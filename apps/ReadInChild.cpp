@@ -12,11 +12,11 @@ namespace {
 
 using nlohmann::json;
 
-std::string answerOf(const std::function<Reading()>& read)
+std::string answerOf(const std::function<TopologyText()>& read)
 {
     json answer;
     try {
-        const Reading reading = read();
+        const TopologyText reading = read();
         answer = {{"topology", reading.topology}, {"notes", reading.notes}};
     } catch (const std::exception& error) {
         answer = {{"error", error.what()}};
@@ -26,7 +26,7 @@ std::string answerOf(const std::function<Reading()>& read)
 
 } // namespace
 
-Reading readInChild(const std::string& file, const std::string& library, const std::function<Reading()>& read)
+TopologyText readInChild(const std::string& file, const std::string& library, const std::function<TopologyText()>& read)
 {
     json answer;
     try {

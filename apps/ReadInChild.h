@@ -7,7 +7,7 @@
 namespace physics::apps {
 
 /// What a reader makes of a geometry file, in a form that goes from process to process.
-struct Reading {
+struct TopologyText {
     std::string topology; ///< as in a topology file
     std::vector<std::string> notes;
 };
@@ -15,6 +15,7 @@ struct Reading {
 /// Runs a reader in a child process, because libraries that read geometry can crash over a damaged file. Throws
 /// `InputError` with what the reader throws, or, after a crash, with a sentence about the file that names the
 /// `library`: "the geometry kernel".
-Reading readInChild(const std::string& file, const std::string& library, const std::function<Reading()>& read);
+TopologyText readInChild(const std::string& file, const std::string& library,
+                         const std::function<TopologyText()>& read);
 
 } // namespace physics::apps

@@ -2,6 +2,7 @@
 
 #include "apps/InputError.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "locationmodel/LocationModel.h"
 #include "physics/Physics.h"
 #include "support/WholeFile.h"
@@ -24,7 +25,10 @@ RestoredSetUp::RestoredSetUp(const std::filesystem::path& geometry, std::optiona
                              const std::filesystem::path& text, Output& output)
 {
     const std::string content = read(text);
-    m_geometry = readGeometry(geometry, imprint);
+    {
+        const Progress progress(output, "reading " + geometry.string());
+        m_geometry = readGeometry(geometry, imprint);
+    }
     for (const std::string& note : m_geometry.notes) {
         output.note(note);
     }

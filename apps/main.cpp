@@ -29,6 +29,9 @@ int main(int argc, char** argv)
     if (isatty(STDOUT_FILENO) == 1) {
         output.setPager(physics::apps::pagerOfUser());
     }
+    if (isatty(STDERR_FILENO) == 1) {
+        output.showProgress();
+    }
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     return static_cast<int>(physics::apps::runCaseTool(arguments, output));
 }

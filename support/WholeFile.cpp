@@ -1,6 +1,7 @@
 #include "support/WholeFile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -59,6 +60,27 @@ bool Descriptor::write(std::string_view content) const
     }
     return true;
 }
+
+/// As long as it lives, this thread takes no signal that asks the process to end; it takes them afterwards. So
+/// Ctrl-C leaves no piece of a file behind.
+class WithoutInterruption {
+public:
+    WithoutInterruption()
+    {
+        sigset_t signals;
+        sigemptyset(&signals);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            sigaddset(&signals, signal);
+        }
+        pthread_sigmask(SIG_BLOCK, &signals, &m_before);
+    }
+    ~WithoutInterruption() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    WithoutInterruption(const WithoutInterruption&) = delete;
+    WithoutInterruption& operator=(const WithoutInterruption&) = delete;
+
+private:
+    sigset_t m_before = {};
+};
 
 /// A new file beside another one, removed at the end unless it took the other's name.
 class FileBeside {
@@ -162,6 +184,7 @@ void writeWholeFile(const fs::path& file, std::string_view content)
     }
     std::error_code ignored;
     const fs::path target = exists && fs::is_symlink(file, ignored) ? fs::canonical(file, ignored) : file;
+    const WithoutInterruption without;
     FileBeside beside(target);
     if (!beside.replaceTarget(content, exists ? std::optional(status.st_mode & 07777U) : std::nullopt)) {
         throw errorAbout(file, "write", errno);

@@ -2,6 +2,7 @@
 
 #include "apps/InputError.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "apps/ReadInChild.h"
 #include "apps/Verb.h"
 #include "apps/gmsh/MeshFile.h"
@@ -17,7 +18,7 @@
 namespace physics::apps {
 namespace {
 
-Reading convert(const std::string& file)
+TopologyText convert(const std::string& file)
 {
     try {
         const MeshTopology topology = buildModel(readMesh(file));
@@ -29,7 +30,10 @@ Reading convert(const std::string& file)
 
 ExitCode run(const std::string& file, const std::string& target, Output& output)
 {
-    const Reading reading = readInChild(file, "the mesh library", [&file] { return convert(file); });
+    const TopologyText reading = [&] {
+        const Progress progress(output, "reading " + file);
+        return readInChild(file, "the mesh library", [&file] { return convert(file); });
+    }();
     for (const std::string& note : reading.notes) {
         output.note(note);
     }

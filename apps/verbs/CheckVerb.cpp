@@ -3,6 +3,7 @@
 #include "apps/InputError.h"
 #include "apps/LoadedSetUp.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "apps/check/CheckReport.h"
 #include "apps/check/CheckViews.h"
 
@@ -40,8 +41,10 @@ ExitCode CheckVerb::run(Output& output)
     }
     m_options.refuseWithout({m_file});
     const LoadedSetUp loaded(m_file, m_options, output, LoadedCase::Restrictions::Off);
-    CheckReport report =
-        check(*loaded.built().physics, loaded.locationModel(), loaded.built().refusals, m_warnings == "ignore");
+    CheckReport report = [&] {
+        const Progress progress(output, "checking " + m_file);
+        return check(*loaded.built().physics, loaded.locationModel(), loaded.built().refusals, m_warnings == "ignore");
+    }();
     report.file = m_file;
     if (const LoadedCase* fromCase = loaded.asCase()) {
         report.places = Places(fromCase->caseFile(), fromCase->source());

@@ -4,6 +4,7 @@
 #include "apps/GeometryFile.h"
 #include "apps/InputError.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "apps/SetUpOptions.h"
 #include "apps/proposal/Proposal.h"
 #include "locationmodel/LocationModel.h"
@@ -44,7 +45,10 @@ ExitCode NewVerb::run(Output& output)
     if (!m_isForced && std::filesystem::exists(m_target)) {
         throw InputError(m_target + ": this file is there already; name another one, or replace it with --force.");
     }
-    const GeometryFile geometry = readGeometry(m_file, m_imprint.value());
+    const GeometryFile geometry = [&] {
+        const Progress progress(output, "reading " + m_file);
+        return readGeometry(m_file, m_imprint.value());
+    }();
     for (const std::string& note : geometry.notes) {
         output.note(note);
     }

@@ -2,6 +2,7 @@
 
 #include "apps/GeometryFile.h"
 #include "apps/Output.h"
+#include "apps/Progress.h"
 #include "apps/TopologyListing.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyFile.h"
@@ -26,7 +27,10 @@ void TopologyVerb::addOptions(CLI::App& app)
 
 ExitCode TopologyVerb::run(Output& output)
 {
-    const GeometryFile geometry = readGeometry(m_file, m_imprint.value());
+    const GeometryFile geometry = [&] {
+        const Progress progress(output, "reading " + m_file);
+        return readGeometry(m_file, m_imprint.value());
+    }();
     for (const std::string& note : geometry.notes) {
         output.note(note);
     }

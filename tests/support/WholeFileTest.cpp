@@ -4,6 +4,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -171,6 +172,28 @@ TEST_F(WholeFile, whatCannotBeReadIsSaid)
 
     EXPECT_EQ(message("no-such"), "no-such: cannot read this file: No such file or directory.");
     EXPECT_EQ(message("/"), "/: this is a folder; give the name of a file.");
+}
+
+/// The signal arrives in the middle: as soon as the new file stands beside the old one.
+TEST_F(WholeFile, aProcessThatIsAskedToEndWritesTheFileFirst)
+{
+    const std::string content(64'000'000, 'x');
+    const pid_t writer = fork();
+    if (writer == 0) {
+        writeWholeFile(path("f"), content);
+        _exit(0);
+    }
+    int status = 0;
+    while (noOfFiles() == 0 && waitpid(writer, &status, WNOHANG) == 0) {
+    }
+    kill(writer, SIGTERM);
+    if (status == 0) {
+        waitpid(writer, &status, 0);
+    }
+
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+    EXPECT_EQ(readWholeFile(path("f")), content);
+    EXPECT_EQ(noOfFiles(), 1);
 }
 
 } // namespace
