@@ -213,7 +213,8 @@ bool PhysicsSerialiser::restore(Physics& physics, const std::string& text)
 
 bool PhysicsSerialiser::hasSomethingToLose(const Physics& physics)
 {
-    return !physics.m_registry->isEmpty() || !physics.activationGroups().empty() || !physics.maskedBodies().empty();
+    return !physics.m_registry->isEmpty() || !physics.activationGroups().empty() || !physics.maskedBodies().empty() ||
+           !physics.m_virtualTopology.interiors().empty();
 }
 
 bool PhysicsSerialiser::build(const SavedSetUp& saved)
@@ -332,7 +333,7 @@ void PhysicsSerialiser::buildObjects(const SavedSetUp& saved)
     for (const GroupRecord& record : saved.groups) {
         std::vector<Volume*> volumes;
         for (const int id : record.volumes)
-            if (Volume* member = volume(id))
+            if (Volume* member = volume(id); member != nullptr && member->activationGroup() == record.number)
                 volumes.push_back(member);
         m_physics->m_registry->activationGroups.restore(record.number, volumes);
     }

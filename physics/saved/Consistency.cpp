@@ -123,7 +123,7 @@ void Consistency::checkTopology()
         for (const std::vector<int>& side : join.sides)
             for (const int index : side)
                 if (at(m_places, index) == nullptr)
-                    complain(join.position, "the interface \"" + join.name + "\" lies on the boundary index " +
+                    complain(join.position, "the interface " + inQuotes(join.name) + " lies on the boundary index " +
                                                 std::to_string(index) + ", which is not above");
     }
 }
@@ -136,9 +136,9 @@ void Consistency::checkPlace(const PlaceRecord& place, bool isDefaultActive, boo
         return;
     }
     if (!isDefaultActive)
-        complain(place.position, "\"" + place.name + "\" is a default place, but the default place is switched off");
+        complain(place.position, inQuotes(place.name) + " is a default place, but the default place is switched off");
     if (hasDefault)
-        complain(place.position, "\"" + place.name + "\" is a second default place where there can be only one");
+        complain(place.position, inQuotes(place.name) + " is a second default place where there can be only one");
     hasDefault = true;
 }
 
@@ -149,7 +149,7 @@ void Consistency::checkRegions(const LocationRecord& location)
         return;
     for (const std::string& id : splitIds(location.text))
         if (!isEnough() && m_topology.topology()->findRegionById(id) == nullptr)
-            complain(location.position, "the geometry has no region \"" + id + "\"" + nearestId(id));
+            complain(location.position, "the geometry has no region " + inQuotes(id) + nearestId(id));
 }
 
 std::string Consistency::nearestId(const std::string& id) const
@@ -157,7 +157,7 @@ std::string Consistency::nearestId(const std::string& id) const
     if (m_complaints.size() >= mostSuggestions)
         return {};
     const std::string nearest = physics::nearestId(id, m_topology);
-    return nearest.empty() ? std::string() : "; the nearest is \"" + nearest + "\"";
+    return nearest.empty() ? std::string() : "; the nearest is " + inQuotes(nearest);
 }
 
 // ---- The objects
@@ -184,6 +184,8 @@ template <class Record>
 void Consistency::checkMembers(const Record& holder, const std::vector<int>& ids,
                                const std::unordered_set<int>& expected, const char* noun)
 {
+    if (isEnough()) // else many records of one id would each be compared with the same many members
+        return;
     std::unordered_set<int> listed(ids.begin(), ids.end());
     for (const int id : ids)
         if (expected.count(id) == 0)
@@ -217,9 +219,9 @@ void Consistency::checkVolumes()
         if (boundary.isDefault && !defaultBoundaries.emplace(boundary.volume, boundary.id).second)
             complain(boundary.position, nameOf(boundary) + " is a second default boundary of its volume");
     }
-    std::unordered_set<int> groups;
+    std::unordered_map<int, std::unordered_set<int>> groups;
     for (const GroupRecord& group : m_saved.groups)
-        groups.insert(group.number);
+        groups[group.number].insert(group.volumes.begin(), group.volumes.end());
 
     std::unordered_set<int> interiors;
     for (const VolumeRecord& volume : m_saved.volumes.records) {
@@ -234,9 +236,10 @@ void Consistency::checkVolumes()
             complain(volume.position, name + " and its interior disagree on whether they are the default");
         if (!interiors.insert(volume.interior).second && !volume.isDefault)
             complain(volume.position, name + " lies on the interior of another volume");
-        if (volume.activationGroup != -1 && groups.count(volume.activationGroup) == 0)
+        // The other way round is let pass: a group may list volumes that ended or are not in it.
+        if (volume.activationGroup != -1 && groups[volume.activationGroup].count(volume.id) == 0)
             complain(volume.position, name + " is in the activation group " + std::to_string(volume.activationGroup) +
-                                          ", which the text lacks");
+                                          ", which the text lacks or which does not list it");
         checkMembers(volume, volume.boundaries, boundaries[volume.id], BoundaryRecord::noun);
         const auto defaultBoundary = defaultBoundaries.find(volume.id);
         if (volume.defaultBoundary != (defaultBoundary == defaultBoundaries.end() ? -1 : defaultBoundary->second))
@@ -292,6 +295,13 @@ void Consistency::checkBoundaries()
 
 void Consistency::checkInterfaces()
 {
+    std::vector<std::pair<int, int>> patches; // interface and boundary
+    for (const BoundaryRecord& boundary : m_saved.boundaries.records)
+        for (const auto& [interface, patch] : boundary.patches)
+            if (interface >= 0)
+                patches.emplace_back(interface, boundary.id);
+    std::sort(patches.begin(), patches.end());
+
     std::unordered_set<int> joins;
     for (const InterfaceRecord& interface : m_saved.interfaces.records) {
         const std::string name = nameOf(interface);
@@ -304,11 +314,9 @@ void Consistency::checkInterfaces()
         if (!joins.insert(interface.join).second)
             complain(interface.position, name + " lies on the place of another interface");
         for (const int id : interface.boundaries) {
-            const BoundaryRecord* boundary = at(m_boundaries, id);
-            const auto isPatch = [&interface](const std::pair<int, int>& entry) { return entry.first == interface.id; };
-            if (boundary == nullptr)
+            if (at(m_boundaries, id) == nullptr)
                 complain(interface.position, name + " names " + numbered("boundary", id) + ", which the text lacks");
-            else if (std::none_of(boundary->patches.begin(), boundary->patches.end(), isPatch))
+            else if (!std::binary_search(patches.begin(), patches.end(), std::make_pair(interface.id, id)))
                 complain(interface.position,
                          name + " joins " + numbered("boundary", id) + ", which has no patch for it");
         }

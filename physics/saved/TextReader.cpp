@@ -7,18 +7,26 @@ namespace physics {
 namespace {
 
 constexpr std::string_view blanks = " \t\n\v\f\r";
-constexpr std::size_t longestQuote = 40;
+constexpr std::size_t longestQuote = 200;
 
-/// A piece of the text for a complaint: short, and on one line whatever it holds.
-std::string quoted(std::string_view piece)
+/// Whether a character of several bytes in UTF-8 goes on here.
+bool isInsideCharacter(std::string_view text, std::size_t position)
 {
-    std::string text = "\"";
-    for (const char c : piece.substr(0, longestQuote))
-        text += static_cast<unsigned char>(c) < ' ' ? '?' : c;
-    return text + (piece.size() > longestQuote ? "...\"" : "\"");
+    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80U;
 }
 
 } // namespace
+
+std::string inQuotes(std::string_view piece)
+{
+    std::size_t end = std::min(piece.size(), longestQuote);
+    while (end > 0 && isInsideCharacter(piece, end))
+        --end;
+    std::string text = "\"";
+    for (const char c : piece.substr(0, end))
+        text += static_cast<unsigned char>(c) < ' ' ? '?' : c;
+    return text + (end < piece.size() ? "...\"" : "\"");
+}
 
 std::size_t TextReader::lineOf(std::size_t position) const
 {
@@ -40,7 +48,7 @@ void TextReader::failAt(std::size_t position, std::string_view expected)
         return;
     const std::string_view found = tokenAt(position);
     m_complaint = std::to_string(lineOf(position)) + ": expected " + std::string(expected) + ", found " +
-                  (found.empty() ? "the end of the text" : quoted(found));
+                  (found.empty() ? "the end of the text" : inQuotes(found));
 }
 
 void TextReader::integer(std::string_view label, int& value)

@@ -11,6 +11,9 @@ namespace physics {
 
 class TypeManager;
 
+/// A piece of a text in quotes for a complaint: short, and on one line whatever it holds.
+std::string inQuotes(std::string_view piece);
+
 /// Reads a saved text field by field. The first field that cannot be read fails the reader: everything
 /// asked for afterwards is 0 or empty, so that loops end by themselves.
 class TextReader {

@@ -63,6 +63,9 @@ const std::vector<Row> rows = {
      {{13, "0 shared@right, shared@rigth, pump"}},
      {"13: the geometry has no region \"shared@rigth\"; the nearest is \"shared@right\"",
       "13: the geometry has no region \"pump\""}},
+    {"regionWithAControlCharacter",
+     {{10, "0 rig\rht"}},
+     {"10: the geometry has no region \"rig?ht\"; the nearest is \"right\""}},
     {"interfaceIndexNegative",
      {{15, "-1 contact"}},
      {"15: the interface index -1 is negative or was used before",
@@ -95,6 +98,12 @@ const std::vector<Row> rows = {
      {{81, "2 1 2"}},
      {"80: volume 1 lists boundary 2, which is not in the text or does not name it"}},
     {"volumeWithoutItsBoundary", {{83, "0"}}, {"82: volume 2 does not list boundary 2, which names it"}},
+    {"volumesThatListEachOthersBoundaries",
+     {{81, "1 2"}, {83, "1 1"}},
+     {"80: volume 1 lists boundary 2, which is not in the text or does not name it",
+      "80: volume 1 does not list boundary 1, which names it",
+      "82: volume 2 lists boundary 1, which is not in the text or does not name it",
+      "82: volume 2 does not list boundary 2, which names it"}},
 
     // ---- Volumes
     {"volumeOfAnUnknownModel",
@@ -112,7 +121,10 @@ const std::vector<Row> rows = {
       "73: boundary 1 does not lie on the interior of its volume"}},
     {"volumeInAnUnknownGroup",
      {{82, "0 2 0 1 1 3 0 -1"}},
-     {"82: volume 2 is in the activation group 3, which the text lacks"}},
+     {"82: volume 2 is in the activation group 3, which the text lacks or which does not list it"}},
+    {"volumeInAGroupThatDoesNotListIt",
+     {{43, "1 1"}},
+     {"82: volume 2 is in the activation group 1, which the text lacks or which does not list it"}},
     {"volumeWithAWrongDefaultBoundary",
      {{82, "0 2 0 1 1 1 0 2"}},
      {"82: volume 2 does not name its one default boundary"}},
@@ -151,6 +163,10 @@ const std::vector<Row> rows = {
      {{73, "0 1 7 0 9 0 1 0"}},
      {"73: boundary 1 has its shell in model 9, which the text lacks or which does not list it"}},
     {"patchOfAnotherBoundary", {{74, "4 -1 1 1 4"}}, {"73: boundary 1 does not list exactly the patches that name it"}},
+    {"boundariesThatListEachOthersPatches",
+     {{74, "4 -1 2 1 4"}, {77, "4 -1 1 1 3"}},
+     {"73: boundary 1 does not list exactly the patches that name it",
+      "76: boundary 2 does not list exactly the patches that name it"}},
     {"boundaryWithoutItsOwnPatch",
      {{74, "2 1 3"}},
      {"73: boundary 1 does not list exactly the patches that name it", "73: boundary 1 has no patch of its own"}},
@@ -236,7 +252,7 @@ const std::vector<Row> rows = {
     // ---- Activation groups
     {"groupNumberBelowOne",
      {{42, "0"}},
-     {"82: volume 2 is in the activation group 1, which the text lacks",
+     {"82: volume 2 is in the activation group 1, which the text lacks or which does not list it",
       "42: the activation group number 0 is below 1 or was used before"}},
     {"groupNumberUsedTwice",
      {{41, "2"}, {43, "1 2\n1\n0"}},
@@ -290,6 +306,17 @@ TEST(Consistency, groupMayNameVolumesThatEnded)
     ASSERT_TRUE(set.physics->restore(exchanged(set, {{43, "2 2 9"}})));
 
     EXPECT_EQ(set.physics->serialise(), text);
+}
+
+TEST(Consistency, groupMayNameVolumesThatAreNotInIt)
+{
+    FullSetUp set;
+    const std::string text = set.physics->serialise();
+
+    ASSERT_TRUE(set.physics->restore(exchanged(set, {{43, "2 1 2"}})));
+
+    EXPECT_EQ(set.physics->serialise(), text);
+    EXPECT_TRUE(set.physics->findVolumeById(1)->isActive());
 }
 
 TEST(Consistency, countersMayBeLowerThanTheIds)
@@ -348,6 +375,29 @@ TEST(Consistency, complainsAHundredTimesAtMostAndSuggestsFiveTimes)
     for (std::size_t i = 0; i < complaints.size(); ++i)
         EXPECT_EQ(complaints[i], std::string("10: the geometry has no region \"rihgt\"") +
                                      (i < 5 ? "; the nearest is \"right\"" : ""));
+}
+
+TEST(Consistency, manyRecordsOfOneIdAreRefusedAtOnce)
+{
+    // If each model were compared with each volume, this would take minutes.
+    constexpr int count = 20000;
+    FullSetUp set;
+    Lines lines = linesOf(set.physics->serialise());
+    lines[33] = lines[34] = std::to_string(count);
+    for (int id = 1; id <= count; ++id) {
+        lines[33] += " 1";
+        lines[34] += " " + std::to_string(id);
+        lines[44] += "\n0 1 0 0 0 0 0 0 0 0 0 0"; // a model
+        lines[78] += "\n0 " + std::to_string(id) + " 0 1 0 -1 0 -1 0";
+    }
+    lines.erase(lines.begin() + 79, lines.begin() + 83);
+    lines.erase(lines.begin() + 45, lines.begin() + 71);
+
+    const Lines complaints = set.physics->checkSerialised(joined(lines));
+
+    ASSERT_EQ(complaints.size(), 100U);
+    for (const std::string& complaint : complaints)
+        EXPECT_EQ(complaint, "34: the id 1 of a model is negative or listed twice");
 }
 
 } // namespace

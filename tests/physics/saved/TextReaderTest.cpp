@@ -43,14 +43,29 @@ TEST(TextReader, refusesWhatIsNoIntegerOf32Bits)
     }
 }
 
-TEST(TextReader, quotesAtMostFortyCharactersOnOneLine)
+TEST(TextReader, quotesAreOnOneLine)
 {
     std::string complaint;
-    integerOf("\n\n" + std::string(50, 'x'), &complaint);
-    EXPECT_EQ(complaint, "3: expected a number (a whole number of 32 bits), found \"" + std::string(40, 'x') + "...\"");
+    integerOf(std::string("\n\na\0\x1b", 5) + "b", &complaint);
 
-    integerOf(std::string("a\0\x1b", 3) + "b", &complaint);
-    EXPECT_EQ(complaint, "1: expected a number (a whole number of 32 bits), found \"a??b\"");
+    EXPECT_EQ(complaint, "3: expected a number (a whole number of 32 bits), found \"a??b\"");
+    EXPECT_EQ(inQuotes("cold\nside\r"), "\"cold?side?\"");
+}
+
+TEST(TextReader, quotesAreNotLongerThanTwoHundredBytes)
+{
+    EXPECT_EQ(inQuotes(std::string(200, 'x')), "\"" + std::string(200, 'x') + "\"");
+    EXPECT_EQ(inQuotes(std::string(201, 'x')), "\"" + std::string(200, 'x') + "...\"");
+}
+
+TEST(TextReader, quotesEndBetweenCharacters)
+{
+    const std::string letter = "\xc3\x9f"; // two bytes in UTF-8
+    const std::string start(199, 'x');
+
+    EXPECT_EQ(inQuotes(start + letter), "\"" + start + "...\"");
+    EXPECT_EQ(inQuotes("x" + start + letter), "\"x" + start + "...\"");
+    EXPECT_EQ(inQuotes(std::string(300, '\x9f')), "\"...\"");
 }
 
 TEST(TextReader, namesTheLineOfTheEndOfTheText)
