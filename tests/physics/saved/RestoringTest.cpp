@@ -196,6 +196,35 @@ TEST_F(Restoring, objectsThatAnEqualNameTookOutOfTheListsComeBack)
     EXPECT_EQ(idsOf(other.primaryModel()->volumes()), (Ids{older->id(), newer->id()}));
 }
 
+/// A text with an interior and a boundary that no object lies on.
+const std::string idleText = "0\n3\n1 0\n0 idle\n1 left\n1 0\n0 wall\n1 inlet\n0\n1\n" + typeTables +
+                             "0\n0\n0\n0\n0\n0\n-1\n0\n0\n0\n0\n0\n0\n0\n0\n";
+
+TEST_F(Restoring, entitiesThatNoObjectLiesOnComeLast)
+{
+    ASSERT_TRUE(physics.restore(idleText));
+    ASSERT_EQ(physics.serialise(), idleText);
+    volume("fluid", "right");
+
+    const std::string text = physics.serialise();
+
+    const std::string expected = "0\n3\n2 0\n0 fluid\n1 right\n0 0\n1 idle\n1 left\n1 0\n0 wall\n1 inlet\n0\n";
+    EXPECT_EQ(text.substr(0, expected.size()), expected);
+    saveAndRestore();
+}
+
+TEST_F(Restoring, entitiesThatNoObjectLiesOnAreNotLostByARefusal)
+{
+    ASSERT_TRUE(other.restore(idleText));
+    volume("fluid");
+    const std::string before = other.serialise();
+    world.answers(2).refuseNextInterior = gtm::Interior::State::Overlapping; // of the rehearsal
+
+    EXPECT_FALSE(other.restore(physics.serialise()));
+
+    EXPECT_EQ(other.serialise(), before);
+}
+
 // ---- Models
 
 TEST_F(Restoring, membersOfADestroyedModelComeBackWithoutModel)
@@ -334,6 +363,19 @@ TEST_F(Restoring, changedThreadIdIsFoundAfterwards)
     EXPECT_EQ(other.findThreadBundleByThreadId(5), nullptr);
 }
 
+TEST_F(Restoring, ofEqualThreadIdsTheOneWithTheHighestSettingsIdIsFound)
+{
+    Settings* first = volume("first", "left")->settings();
+    Settings* second = volume("second", "right")->settings();
+    second->createThreadBundle(0, ThreadType::Fluid, 5, {1});
+    first->createThreadBundle(0, ThreadType::Fluid, 5, {1});
+    ASSERT_EQ(physics.findSettingsByThreadId(5), first);
+
+    saveAndRestore();
+
+    EXPECT_EQ(other.findSettingsByThreadId(5)->id(), second->id());
+}
+
 TEST_F(Restoring, settingsThatNoModelHoldsDoNotComeBack)
 {
     Model* lost = physics.createModel();
@@ -451,6 +493,51 @@ TEST_F(Restoring, setUpCanBeRestoredFromItsOwnText)
 
     EXPECT_EQ(physics.serialise(), text);
     EXPECT_EQ(physics.maskedBodies(), std::vector<gtm::Body*>{far});
+}
+
+TEST_F(Restoring, isTriedOutThenObjectsEndThenTheLocationModelIsCleared)
+{
+    volume("fluid")->createBoundary("wall", std::string("inlet"));
+    const std::string text = physics.serialise();
+    world.takeCalls();
+
+    ASSERT_TRUE(physics.restore(text));
+
+    EXPECT_EQ(calls(), (Calls{"#2 VirtualTopology(\"\", 0)", // the rehearsal
+                              "#2 setMaskedBodies([])", "#2 activateDefaultInterior(false)",
+                              "#2 createInterior(\"fluid\", \"left\", false, false)",
+                              "#2 interior \"fluid\": activateDefaultBoundary(false)",
+                              "#2 interior \"fluid\": createBoundary(\"wall\", \"inlet\", false)",
+                              "boundary \"wall\": destroy()", "interior \"fluid\": destroy()", "unmask([left, right])",
+                              "unmask([far])", "unmask([])", "clear()", "setMaskedBodies([])",
+                              "activateDefaultInterior(false)", "createInterior(\"fluid\", \"left\", false, false)",
+                              "interior \"fluid\": activateDefaultBoundary(false)",
+                              "interior \"fluid\": createBoundary(\"wall\", \"inlet\", false)"}));
+}
+
+TEST_F(Restoring, localeOfTheProcessDoesNotMatter)
+{
+    volume("fluid")->settings()->createThreadBundle(0, ThreadType::Fluid, 5000000, {1});
+    const std::string text = physics.serialise();
+    const GroupedDigits locale;
+
+    saveAndRestore();
+
+    EXPECT_EQ(physics.serialise(), text);
+    EXPECT_EQ(other.threadIds(), Ids{5000000});
+}
+
+TEST_F(Restoring, typeThatIsTheDefaultAfterwardsMayNotBeAllowed)
+{
+    ASSERT_TRUE(physics.restore(physics.serialise()));
+    Volume* fluid = volume("fluid");
+    Boundary* in = fluid->createBoundary("in", std::string("inlet"), BoundaryType::PressureInlet);
+
+    fluid->setType(VolumeType::Solid); // for which a velocity inlet is the default now
+
+    EXPECT_EQ(in->type(), BoundaryType::PressureInlet);
+    EXPECT_EQ(fluid->createBoundary("out", std::string("outlet"))->type(), BoundaryType::VelocityInlet);
+    EXPECT_FALSE(fluid->isAllowedBoundaryType(BoundaryType::VelocityInlet));
 }
 
 TEST_F(Restoring, flagsComeBack)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <locale>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -50,5 +51,22 @@ inline std::string joined(const std::vector<std::string>& lines)
         text += line + "\n";
     return text;
 }
+
+/// As long as this lives, the locale of the process puts a comma between any two digits.
+class GroupedDigits {
+public:
+    GroupedDigits() : m_before(std::locale::global(std::locale(std::locale::classic(), new Grouping))) {}
+    ~GroupedDigits() { std::locale::global(m_before); }
+    GroupedDigits(const GroupedDigits&) = delete;
+    GroupedDigits& operator=(const GroupedDigits&) = delete;
+
+private:
+    struct Grouping : std::numpunct<char> {
+        char do_thousands_sep() const override { return ','; }
+        std::string do_grouping() const override { return "\1"; }
+    };
+
+    std::locale m_before;
+};
 
 } // namespace physics

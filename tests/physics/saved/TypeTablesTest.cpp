@@ -3,10 +3,10 @@
 #include "physics/TypeManager.h"
 #include "physics/saved/TextReader.h"
 #include "physics/saved/TextWriter.h"
+#include "tests/physics/saved/Texts.h"
 
 #include <gtest/gtest.h>
 
-#include <locale>
 #include <string>
 #include <vector>
 
@@ -231,16 +231,9 @@ TEST(TypeTables, hugeCountsEndWithTheText)
 
 TEST(TypeTables, localeOfTheProcessDoesNotMatter)
 {
-    struct Grouping : std::numpunct<char> {
-        char do_thousands_sep() const override { return ','; }
-        std::string do_grouping() const override { return "\1"; }
-    };
-    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Grouping));
-    const Restored restored(freshSection);
-    const std::string written = restored.written();
-    std::locale::global(before);
+    const GroupedDigits locale;
 
-    EXPECT_EQ(written, freshSection);
+    EXPECT_EQ(Restored(freshSection).written(), freshSection);
 }
 
 } // namespace
