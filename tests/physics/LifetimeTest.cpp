@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <numeric>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -165,6 +167,98 @@ TEST(Lifetime, replacedThreadBundleLivesUntilItsSettingsEnd)
     set.first->destroy();
     EXPECT_EQ(set.physics->findThreadBundleByThreadId(7), nullptr);
     EXPECT_EQ(set.physics->findThreadBundleByZoneId(1), nullptr);
+}
+
+// ---- In every order
+
+/// What the set-up hands out is alive, and found where it says that it is.
+void expectThatAllListedAreAlive(const Physics& physics)
+{
+    for (Model* model : physics.models()) {
+        EXPECT_EQ(physics.findModelById(model->id()), model);
+        for (const Volume* volume : model->volumes())
+            EXPECT_EQ(volume->model(), model);
+        for (const Interface* interface : model->interfaces())
+            EXPECT_EQ(interface->model(), model);
+    }
+    for (Volume* volume : physics.volumes())
+        EXPECT_EQ(physics.findVolumeById(volume->id()), volume);
+    for (Boundary* boundary : physics.boundaries()) {
+        EXPECT_EQ(physics.findBoundaryById(boundary->id()), boundary);
+        for (const Interface* interface : boundary->interfaces())
+            EXPECT_NE(interface->otherBoundary(boundary), nullptr);
+        for (const BoundaryPatch* patch : boundary->patches())
+            EXPECT_EQ(patch->boundary(), boundary);
+    }
+    for (Interface* interface : physics.interfaces())
+        EXPECT_EQ(physics.findInterfaceById(interface->id()), interface);
+    for (Settings* settings : physics.settings()) {
+        EXPECT_EQ(physics.findSettingsById(settings->id()), settings);
+        EXPECT_NE(settings->name(), "");
+    }
+    for (const ThreadBundle* bundle : physics.threadBundles())
+        EXPECT_NE(bundle->settings()->model(), nullptr);
+}
+
+TEST(Lifetime, objectsThatKnowEachOtherMayEndInEveryOrder)
+{
+    enum Step { endModel, endShell, endFirst, endSecond, endHot, endInterface, clear, noOfSteps };
+    std::vector<int> order(noOfSteps);
+    std::iota(order.begin(), order.end(), 0);
+    do {
+        if (!std::is_sorted(std::find(order.begin(), order.end(), clear) + 1, order.end()))
+            continue; // what comes after the clearing finds nothing; one order of it is enough
+        TwoVolumes set;
+        Physics& physics = *set.physics;
+        set.hot->setShellModel(physics.createModel());
+        int threadId = 0;
+        for (Settings* settings :
+             {set.first->settings(), set.first->internalSettings(), set.second->settings(), set.interface->settings(),
+              set.hot->boundarySettings(nullptr), set.hot->boundarySettings(set.interface),
+              set.hot->shellSettings(nullptr), set.hot->shellSettings(set.interface)})
+            settings->createThreadBundle(0, ThreadType::Wall, ++threadId, {});
+        physics.deactivateVolumes({set.second, set.first});
+        const int model = set.model->id();
+        const int shell = set.hot->shellModel()->id();
+        const int first = set.first->id();
+        const int second = set.second->id();
+        const int hot = set.hot->id();
+        const auto end = [](auto* object) {
+            if (object != nullptr)
+                object->destroy();
+        };
+
+        for (const int step : order) {
+            switch (step) {
+            case endModel:
+                end(physics.findModelById(model));
+                break;
+            case endShell:
+                end(physics.findModelById(shell));
+                break;
+            case endFirst:
+                end(physics.findVolumeById(first));
+                break;
+            case endSecond:
+                end(physics.findVolumeById(second));
+                break;
+            case endHot:
+                end(physics.findBoundaryById(hot));
+                break;
+            case endInterface:
+                set.interface->destroy();
+                break;
+            default:
+                physics.clear();
+                break;
+            }
+            expectThatAllListedAreAlive(physics);
+        }
+
+        EXPECT_TRUE(physics.volumes().empty() && physics.models().empty() && physics.interfaces().empty());
+        for (int id = 1; id <= threadId; ++id)
+            EXPECT_EQ(physics.findThreadBundleByThreadId(id), nullptr);
+    } while (std::next_permutation(order.begin(), order.end()));
 }
 
 // ---- Whatever the location model fails in, nothing is left half made

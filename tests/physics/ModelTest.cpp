@@ -258,6 +258,18 @@ TEST_F(ModelTest, givesAJoiningVolumeTheSettingsOfItsPatchesOnly)
     EXPECT_EQ(model->volumeSettings(hotWall)[0]->boundaryPatch(), hotWall->patch(nullptr));
 }
 
+TEST_F(ModelTest, givesAJoiningVolumeTheSettingsOfBoundariesThatAnEqualNameHides)
+{
+    hot->createBoundary("hot wall", std::string("upper@left"), BoundaryType::Wall);
+    ASSERT_EQ(hot->boundaries().size(), 2u);
+    model->destroy();
+
+    hot->setModel(other);
+
+    ASSERT_EQ(other->volumeSettings(hotWall).size(), 1u);
+    EXPECT_EQ(other->volumeSettings(hotWall).front()->boundaryPatch(), hotWall->patch(nullptr));
+}
+
 TEST_F(ModelTest, givesALeavingVolumeSettingsOnlyToEndThem)
 {
     Volume* bare = physics.createVolume("bare", std::string(), VolumeType::Fluid);

@@ -267,6 +267,20 @@ TEST_F(SettingsTest, giveTheThreadIdOfAReplacedBundleToAnother)
     EXPECT_EQ(settings->threadIds(), (Ids{8, 7}));
 }
 
+TEST_F(SettingsTest, doNotMindWhichThreadIdAReplacedBundleTakes)
+{
+    ThreadBundle* replaced = bundle(0, 7);
+    ThreadBundle* present = bundle(0, 8);
+
+    replaced->setThreadId(8);
+    replaced->setThreadId(5);
+
+    EXPECT_EQ(settings->threadIds(), Ids{8});
+    EXPECT_EQ(settings->threadBundleWithThreadId(8), present);
+    EXPECT_EQ(settings->threadBundleWithThreadId(5), nullptr);
+    EXPECT_EQ(physics.findThreadBundleByThreadId(7), replaced);
+}
+
 TEST_F(SettingsTest, endReplacedBundlesWithoutTouchingWhatOthersTookFromThem)
 {
     bundle(0, 7)->setZoneIds({70});
