@@ -39,6 +39,35 @@ TEST(SaveVerb, aRefusedCaseLeavesTheOldTextAlone)
     EXPECT_EQ(run.code, 1);
 }
 
+TEST(SaveVerb, aCaseThatATextCannotKeepLeavesTheOldTextAlone)
+{
+    const TemporaryFile geometry("blank-topology.json", contentOf(dataFile("good-cases/channel-topology.json")));
+    std::string content = contentOf(dataFile("good-cases/channel.json"));
+    const auto replace = [&content](const std::string& what, const std::string& by) {
+        ASSERT_NE(content.find(what), std::string::npos) << what;
+        content.replace(content.find(what), what.size(), by);
+    };
+    replace("channel-topology.json", geometry.path());
+    replace(R"("walls")", R"(" walls")");
+    replace(R"("channel/east")", R"("channel/east,\nchannel/east")");
+    replace(R"("heat")", R"("  ")");
+    const TemporaryFile file("blanks.json", content);
+    const TemporaryFile text("old.setup", "old");
+
+    const ToolRun run({"save", file.path(), "-o", text.path()});
+
+    const auto lost = [&text](const std::string& what) {
+        return text.path() + ": the " + what +
+               " would not come back: a saved text keeps no name or location that begins with a blank or has a line "
+               "end, and no list of regions with a comma in an id; change it.\n";
+    };
+    EXPECT_EQ(contentOf(text.path()), "old");
+    EXPECT_EQ(run.err, lost(R"(name of the boundary "water:: walls")") +
+                           lost(R"(location of the boundary "water::outlet")") + lost(R"(name of the interface "  ")") +
+                           text.path() + ": not written, because part of the case would be lost.\n");
+    EXPECT_EQ(run.code, 1);
+}
+
 TEST(SaveVerb, aFullDiskIsNotTakenForSuccess)
 {
     const ToolRun run({"save", dataFile("good-cases/channel.json"), "-o", "/dev/full"});
