@@ -333,7 +333,7 @@ void PhysicsSerialiser::buildObjects(const SavedSetUp& saved)
     for (const GroupRecord& record : saved.groups) {
         std::vector<Volume*> volumes;
         for (const int id : record.volumes)
-            if (Volume* member = volume(id); member != nullptr && member->activationGroup() == record.number)
+            if (Volume* member = volume(id))
                 volumes.push_back(member);
         m_physics->m_registry->activationGroups.restore(record.number, volumes);
     }

@@ -311,9 +311,9 @@ TEST(Consistency, groupMayNameVolumesThatEnded)
 TEST(Consistency, groupMayNameVolumesThatAreNotInIt)
 {
     FullSetUp set;
-    const std::string text = set.physics->serialise();
+    const std::string text = exchanged(set, {{43, "2 1 2"}});
 
-    ASSERT_TRUE(set.physics->restore(exchanged(set, {{43, "2 1 2"}})));
+    ASSERT_TRUE(set.physics->restore(text));
 
     EXPECT_EQ(set.physics->serialise(), text);
     EXPECT_TRUE(set.physics->findVolumeById(1)->isActive());
