@@ -60,7 +60,7 @@ def build(setup: physics.Physics) -> None:
 
 
 def main() -> None:
-    geometry, notes = read_cad(Path(__file__).with_name("heat_exchanger.step"))
+    geometry, notes, _ = read_cad(Path(__file__).with_name("heat_exchanger.step"))
     for note in notes:
         print("note:", note)
 

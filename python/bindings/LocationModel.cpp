@@ -5,12 +5,15 @@
 #include "locationmodel/TopologyFile.h"
 #include "python/bindings/Bindings.h"
 #include "python/bindings/Errors.h"
+#include "python/bindings/Named.h"
 #include "python/bindings/PlacedAt.h"
 
 #include <pybind11/stl/filesystem.h>
 
+#include <array>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -24,6 +27,15 @@ namespace {
 
 using FaceSides = std::vector<std::tuple<int, int>>; // zone id, side word
 using Side = std::tuple<Text, Text, FaceSides>;      // body, id, zones
+
+struct BodyFactsName {
+    static constexpr auto text = pybind11::detail::const_name("BodyFacts");
+};
+struct FaceFactsName {
+    static constexpr auto text = pybind11::detail::const_name("FaceFacts");
+};
+using BodyFacts = Named<BodyFactsName, std::optional<double>, Text>;                        // volume, colour
+using FaceFacts = Named<FaceFactsName, std::optional<double>, std::optional<Triple>, Text>; // area, centroid, colour
 
 void bindRegions(pybind11::module_& module)
 {
@@ -74,6 +86,23 @@ std::optional<FaceSides> faceSides(const Self<gtm::bundled::LocationModel>& self
     return sides;
 }
 
+BodyFacts bodyFacts(const Self<gtm::bundled::LocationModel>& self, const Held<gtm::Body>& body)
+{
+    Geometry& geometry = present<gtm::bundled::LocationModel>(self);
+    const gtm::bundled::BodyFacts& facts = geometry.object().facts(objectIn(geometry, body));
+    return {{facts.volume, Text{facts.color}}};
+}
+
+FaceFacts faceFacts(const Self<gtm::bundled::LocationModel>& self, const Held<gtm::Face>& face)
+{
+    Geometry& geometry = present<gtm::bundled::LocationModel>(self);
+    const gtm::bundled::FaceFacts& facts = geometry.object().facts(objectIn(geometry, face));
+    std::optional<Triple> centroid;
+    if (facts.centroid)
+        centroid = give(geometry, *facts.centroid);
+    return {{facts.area, centroid, Text{facts.color}}};
+}
+
 void bindModel(pybind11::module_& module)
 {
     using gtm::bundled::LocationModel;
@@ -87,6 +116,8 @@ void bindModel(pybind11::module_& module)
         .def("faceUses", wrap(overload_cast<>(&LocationModel::faceUses, pybind11::const_)))
         .def("faceUses", wrap(overload_cast<const gtm::Body*>(&LocationModel::faceUses, pybind11::const_)), arg("body"))
         .def("part", &LocationModel::part, arg("body"))
+        .def("facts", bodyFacts, arg("body"))
+        .def("facts", faceFacts, arg("face"))
         .def("lastRefusal", &LocationModel::lastRefusal)
         .def("lastRefusedState",
              [](const Self<LocationModel>& self) {
@@ -179,6 +210,23 @@ void bindBuilder(pybind11::module_& module)
                 self->addFace(id.bytes, sideOf(first), second ? std::optional(sideOf(*second)) : std::nullopt);
             },
             pybind11::doc(doc("::addFace").c_str()), arg("id"), arg("first"), arg("second") = pybind11::none())
+        .def(
+            "describe_body",
+            [](const Self& self, const Text& id, const BodyFacts& facts) {
+                const auto& [volume, color] = facts.values;
+                self->describeBody(id.bytes, {volume, color.bytes});
+            },
+            pybind11::doc(doc("::describeBody").c_str()), arg("id"), arg("facts"))
+        .def(
+            "describe_face",
+            [](const Self& self, const Text& id, const FaceFacts& facts) {
+                const auto& [area, centroid, color] = facts.values;
+                std::optional<std::array<double, 3>> point;
+                if (centroid)
+                    point = Argument<std::array<double, 3>>::use(self, *centroid);
+                self->describeFace(id.bytes, {area, point, color.bytes});
+            },
+            pybind11::doc(doc("::describeFace").c_str()), arg("id"), arg("facts"))
         .def(
             "build", [](const Self& self) { return std::make_shared<Geometry>(self->build()); },
             pybind11::doc(doc("::build").c_str()));

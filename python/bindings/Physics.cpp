@@ -3,10 +3,12 @@
 #include "python/bindings/AllowedTypes.h"
 #include "python/bindings/Bindings.h"
 #include "python/bindings/Building.h"
-#include "python/bindings/Complaint.h"
 #include "python/bindings/Creation.h"
+#include "python/bindings/Named.h"
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace physics::python {
 
@@ -96,12 +98,17 @@ void bindMask(Binding<Physics>& type)
         .def("unusedBodies", &Physics::unusedBodies);
 }
 
+struct ComplaintName {
+    static constexpr auto text = pybind11::detail::const_name("Complaint");
+};
+using Complaint = Named<ComplaintName, std::optional<Held<physics::Region>>, std::vector<Text>>;
+
 std::vector<Complaint> complaints(const Self<Physics>& self, bool ignoreWarnings)
 {
     SetUp& setUp = present<Physics>(self);
     std::vector<Complaint> result;
     for (const Physics::Complaint& complaint : setUp.object().complaints(ignoreWarnings))
-        result.push_back({give(setUp, complaint.region), give(setUp, complaint.lines)});
+        result.push_back({{give(setUp, complaint.region), give(setUp, complaint.lines)}});
     return result;
 }
 

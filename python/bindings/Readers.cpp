@@ -11,7 +11,11 @@
 #include "importers/cgns/CgnsReader.h"
 #endif
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,7 +33,8 @@ using pybind11::arg;
 using Lines = std::vector<Text>;
 using Condition = std::tuple<Text, Text, Text>;
 using Periodic = std::tuple<Text, Text, Text, bool, Triple, Triple, Triple>;
-using CadAnswer = std::tuple<std::shared_ptr<Geometry>, Lines>;
+using Triangles = std::tuple<Text, std::vector<Triple>, std::vector<std::array<std::size_t, 3>>>;
+using CadAnswer = std::tuple<std::shared_ptr<Geometry>, Lines, std::vector<Triangles>>;
 using CgnsAnswer = std::tuple<std::shared_ptr<Geometry>, std::vector<Condition>, std::vector<Periodic>, Lines>;
 
 #if !defined(PHYSICS_HAS_CAD) || !defined(PHYSICS_HAS_CGNS)
@@ -48,20 +53,27 @@ Lines linesOf(const std::vector<std::string>& texts)
     return lines;
 }
 
-CadAnswer readCad(const std::filesystem::path& file, std::optional<bool> imprint)
+#if defined(PHYSICS_HAS_CAD) || defined(PHYSICS_HAS_CGNS)
+Triple tripleOf(const std::array<double, 3>& values) { return {values[0], values[1], values[2]}; }
+#endif
+
+CadAnswer readCad(const std::filesystem::path& file, std::optional<bool> imprint, std::optional<double> tolerance)
 {
 #ifdef PHYSICS_HAS_CAD
-    gtm::bundled::CadResult result = gtm::bundled::readCad(file, {imprint});
-    return {std::make_shared<Geometry>(std::move(result.model)), linesOf(result.notes)};
+    gtm::bundled::CadResult result = gtm::bundled::readCad(file, {imprint, tolerance});
+    std::vector<Triangles> triangles;
+    for (const gtm::bundled::CadTriangles& face : result.triangles) {
+        std::vector<Triple> points;
+        std::transform(face.points.begin(), face.points.end(), std::back_inserter(points), tripleOf);
+        triangles.emplace_back(Text{face.face}, std::move(points), face.triangles);
+    }
+    return {std::make_shared<Geometry>(std::move(result.model)), linesOf(result.notes), std::move(triangles)};
 #else
     static_cast<void>(imprint);
+    static_cast<void>(tolerance);
     refuse(file, "geometry");
 #endif
 }
-
-#ifdef PHYSICS_HAS_CGNS
-Triple tripleOf(const std::array<double, 3>& values) { return {values[0], values[1], values[2]}; }
-#endif
 
 CgnsAnswer readCgns(const std::filesystem::path& file, bool bodiesAreFamilies)
 {
@@ -87,7 +99,8 @@ CgnsAnswer readCgns(const std::filesystem::path& file, bool bodiesAreFamilies)
 
 void bindReaders(pybind11::module_& module)
 {
-    module.def("_read_cad", readCad, arg("file"), arg("imprint") = pybind11::none());
+    module.def("_read_cad", readCad, arg("file"), arg("imprint") = pybind11::none(),
+               arg("triangle_tolerance") = pybind11::none());
     module.def("_read_cgns", readCgns, arg("file"), arg("bodies_are_families") = false);
     const pybind11::object base = module.attr("TopologyError");
 #ifdef PHYSICS_HAS_CAD

@@ -19,11 +19,13 @@ from physics._native.locationmodel import (
     read_topology_text,
     write_topology,
 )
+from physics.values import BodyFacts, FaceFacts
 
 __all__ = [
-    "Body", "CadError", "CadResult", "CgnsCondition", "CgnsError", "CgnsPeriodic", "CgnsResult", "Face", "FaceSide",
-    "FaceUse", "Location", "LocationModel", "Part", "Region", "TopologyBuilder", "TopologyError", "ZoneSide",
-    "read_cad", "read_cgns", "read_topology", "read_topology_text", "write_topology",
+    "Body", "BodyFacts", "CadError", "CadResult", "CadTriangles", "CgnsCondition", "CgnsError", "CgnsPeriodic",
+    "CgnsResult", "Face", "FaceFacts", "FaceSide", "FaceUse", "Location", "LocationModel", "Part", "Region",
+    "TopologyBuilder", "TopologyError", "ZoneSide", "read_cad", "read_cgns", "read_topology", "read_topology_text",
+    "write_topology",
 ]
 
 
@@ -55,17 +57,27 @@ def _side(side: Union[str, FaceSide]) -> FaceSide:
     return FaceSide(side) if isinstance(side, str) else side
 
 
+class CadTriangles(NamedTuple):
+    """A face in triangles, for pictures. Triangles name places in `points`; seen against the normal, which points out
+    of the first side, they run counter-clockwise."""
+
+    face: str
+    points: "list[tuple[float, float, float]]"
+    triangles: "list[list[int]]"
+
+
 class CadResult(NamedTuple):
     """What was read. `notes` say what the file has and the model has not, and every name that could not be kept; one
-    sentence each."""
+    sentence each. `triangles` has each face, in their order, when they were asked for."""
 
     model: LocationModel
     notes: "list[str]"
+    triangles: "list[CadTriangles]"
 
 
 class CgnsCondition(NamedTuple):
-    """What the file says about the face of a boundary condition: the id of the face, a type such as "BCWallViscous", and
-    the family, which is empty when the file names none."""
+    """What the file says about the face of a boundary condition: the id of the face, a type such as "BCWallViscous",
+    and the family, which is empty when the file names none."""
 
     face: str
     type: str
@@ -95,11 +107,14 @@ class CgnsResult(NamedTuple):
     notes: "list[str]"
 
 
-def read_cad(file: "Union[str, os.PathLike[str]]", imprint: Optional[bool] = None) -> CadResult:
+def read_cad(file: "Union[str, os.PathLike[str]]", imprint: Optional[bool] = None,
+             triangle_tolerance: Optional[float] = None) -> CadResult:
     """Reads a STEP or BREP file, told apart by content, not by name. `imprint` says whether faces are divided and made
     common where bodies touch; None does so for STEP, in which every body has faces of its own, and not for BREP, which
-    keeps shared faces. Raises `CadError`."""
-    return CadResult(*_native._read_cad(file, imprint))
+    keeps shared faces. With `triangle_tolerance`, a length above zero, faces are also told in triangles that are not
+    further from them. Raises `CadError`."""
+    model, notes, triangles = _native._read_cad(file, imprint, triangle_tolerance)
+    return CadResult(model, notes, [CadTriangles(*each) for each in triangles])
 
 
 def read_cgns(file: "Union[str, os.PathLike[str]]", bodies_are_families: bool = False) -> CgnsResult:

@@ -30,12 +30,14 @@ import os
 from typing import Iterator, Optional, Sequence, Union, overload
 
 from physics.enumerations import *
+from physics.values import BodyFacts, FaceFacts
 """,
 }
 
 
 def annotation(text, module, is_argument):
     """A type as the signature has it, in the words of a stub."""
+    text = re.sub(r"List\[(int|float)\[\d+\]\]", r"List[\1]", text)  # of a fixed length
     text = re.sub(rf"\b{re.escape(module)}\.(?=[A-Z])", "", text)
     text = text.replace("physics.locationmodel.", "locationmodel.").replace("os.PathLike", "Union[str, os.PathLike[str]]")
     text = text.replace("List[", "Sequence[" if is_argument else "list[").replace("Tuple[", "tuple[")

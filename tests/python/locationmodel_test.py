@@ -7,7 +7,7 @@ import pytest
 
 from conftest import exchanger
 from physics import State, VolumeType
-from physics.locationmodel import (Body, CadError, CgnsError, Face, FaceUse, Part, TopologyBuilder, TopologyError, read_cad,
+from physics.locationmodel import (Body, BodyFacts, CadError, CgnsError, Face, FaceFacts, FaceUse, Part, TopologyBuilder, TopologyError, read_cad,
                                    read_cgns, read_topology, read_topology_text, write_topology)
 
 EXAMPLES = pathlib.Path(__file__).resolve().parent.parent.parent / "examples"
@@ -90,10 +90,10 @@ def test_a_wrong_topology_file_is_an_error_with_its_place(tmp_path):
 
 
 def test_a_geometry_file_is_read_with_its_notes():
-    model, notes = read_cad(EXAMPLES / "heat_exchanger.step")
+    model, notes, triangles = read_cad(EXAMPLES / "heat_exchanger.step")
 
     assert [body.id() for body in model] == ["hot", "cold", "tube"]
-    assert notes == []
+    assert notes == [] and triangles == []
 
 
 def test_imprinting_can_be_chosen():
@@ -101,6 +101,31 @@ def test_imprinting_can_be_chosen():
     apart = len(read_cad(str(EXAMPLES / "heat_exchanger.step"), imprint=False).model.faces())
 
     assert apart == shared + 2  # the two walls of the tube, each seen from either side
+
+
+def test_a_geometry_file_tells_measures_and_triangles():
+    model, _, triangles = read_cad(EXAMPLES / "fan_passage.step", triangle_tolerance=1)
+
+    assert all(model.facts(body).volume > 0 for body in model)
+    assert all(model.facts(face).area > 0 and len(model.facts(face).centroid) == 3 for face in model.faces())
+    assert [each.face for each in triangles] == [face.id() for face in model.faces()]
+    assert all(place < len(each.points) for each in triangles for corners in each.triangles for place in corners)
+    assert any(each.triangles for each in triangles)
+
+
+def test_facts_are_those_that_were_told():
+    builder = TopologyBuilder()
+    builder.add_body("water")
+    builder.add_face("rim", "water")
+    builder.describe_body("water", BodyFacts(volume=2.5))
+    builder.describe_face("rim", FaceFacts(4, (1, 2, 3), "#00ff00"))
+    with pytest.raises(TopologyError):
+        builder.describe_body("water", BodyFacts(volume=-1))
+    model = builder.build()
+
+    assert model.facts(model.bodies()[0]) == BodyFacts(2.5, "")
+    assert model.facts(model.faces()[0]) == FaceFacts(4.0, (1.0, 2.0, 3.0), "#00ff00")
+    assert model.facts(model.faces()[0]).color == "#00ff00"
 
 
 def test_what_is_no_geometry_file_is_an_error(tmp_path):
