@@ -29,6 +29,7 @@ template <class Entity, class Ids>
 std::vector<Entity*> inOrderOfObjects(const std::vector<Entity*>& entities, const Ids& ids)
 {
     std::vector<std::pair<std::int64_t, Entity*>> ranked;
+    ranked.reserve(entities.size());
     for (Entity* entity : entities) {
         const auto entry = ids.find(entity);
         ranked.emplace_back(entry == ids.end() ? std::numeric_limits<std::int64_t>::max() : entry->second, entity);
@@ -36,6 +37,7 @@ std::vector<Entity*> inOrderOfObjects(const std::vector<Entity*>& entities, cons
     std::stable_sort(ranked.begin(), ranked.end(),
                      [](const auto& left, const auto& right) { return left.first < right.first; });
     std::vector<Entity*> sorted;
+    sorted.reserve(ranked.size());
     for (const auto& entry : ranked)
         sorted.push_back(entry.second);
     return sorted;
@@ -58,7 +60,7 @@ LocationRecord locationOf(bool isDefault, const gtm::Location* location)
 /// The records of a block in the order of their ids: so objects come back in one order, whatever the
 /// order of the text.
 template <class Record>
-std::vector<const Record*> byId(const Block<Record>& block)
+std::vector<const Record*> byId(const ReadBlock<Record>& block)
 {
     std::vector<const Record*> records;
     for (const Record& record : block.records)
@@ -72,17 +74,40 @@ std::vector<const Record*> byId(const Block<Record>& block)
 
 // ---- Saving
 
+/// All objects of one class in a set-up that is saved. Their records are made one by one as they are written:
+/// those of a large set-up would fill more memory than the objects.
+template <class Record>
+struct PhysicsSerialiser::LiveBlock {
+    struct Records {
+        std::vector<typename Record::Object*> objects;
+        const PhysicsSerialiser* serialiser = nullptr;
+
+        template <class Write>
+        void forEach(const Write& write) const
+        {
+            for (const auto* object : objects)
+                write(object->serialise(*serialiser));
+        }
+    };
+
+    std::vector<int> ids;
+    int lastUsedId = 0;
+    Records records;
+    std::size_t position = 0;
+};
+
 std::string PhysicsSerialiser::save(const Physics& physics)
 {
-    const SavedSetUp saved = PhysicsSerialiser().describe(physics);
+    PhysicsSerialiser serialiser;
+    const LiveSetUp saved = serialiser.describe(physics);
     TextWriter writer;
-    SavedSetUp::describe(writer, saved);
+    LiveSetUp::describe(writer, saved);
     return writer.take();
 }
 
-SavedSetUp PhysicsSerialiser::describe(const Physics& physics)
+PhysicsSerialiser::LiveSetUp PhysicsSerialiser::describe(const Physics& physics)
 {
-    SavedSetUp saved;
+    LiveSetUp saved;
     saved.maskedBodies.text = joinedIds(physics.maskedBodies());
     describeInteriors(physics, saved);
     describeJoins(physics, saved);
@@ -99,7 +124,7 @@ SavedSetUp PhysicsSerialiser::describe(const Physics& physics)
     return saved;
 }
 
-void PhysicsSerialiser::describeInteriors(const Physics& physics, SavedSetUp& saved)
+void PhysicsSerialiser::describeInteriors(const Physics& physics, LiveSetUp& saved)
 {
     const gtm::VirtualTopology& topology = physics.virtualTopology();
     saved.isDefaultInteriorActive = topology.isDefaultInteriorActive();
@@ -107,7 +132,10 @@ void PhysicsSerialiser::describeInteriors(const Physics& physics, SavedSetUp& sa
     std::unordered_map<const gtm::Boundary*, int> boundaries;
     for (const Volume* volume : physics.m_registry->allVolumes())
         volumes.emplace(volume->interior(), volume->id());
-    for (const Boundary* boundary : physics.m_registry->allBoundaries())
+    const std::vector<Boundary*> all = physics.m_registry->allBoundaries();
+    boundaries.reserve(all.size());
+    m_boundaryIndices.reserve(all.size());
+    for (const Boundary* boundary : all)
         boundaries.emplace(boundary->boundary(), boundary->id());
     for (const gtm::Interior* interior : inOrderOfObjects(topology.interiors(), volumes)) {
         InteriorRecord& record = saved.interiors.emplace_back();
@@ -126,7 +154,7 @@ void PhysicsSerialiser::describeInteriors(const Physics& physics, SavedSetUp& sa
     }
 }
 
-void PhysicsSerialiser::describeJoins(const Physics& physics, SavedSetUp& saved)
+void PhysicsSerialiser::describeJoins(const Physics& physics, LiveSetUp& saved)
 {
     std::unordered_map<const gtm::Interface*, int> interfaces;
     for (const Interface* interface : physics.m_registry->allInterfaces())
@@ -149,14 +177,12 @@ std::vector<int> PhysicsSerialiser::indicesOf(const std::set<gtm::Boundary*>& bo
     return {indices.begin(), indices.end()};
 }
 
-void PhysicsSerialiser::describeObjects(const Physics& physics, SavedSetUp& saved) const
+void PhysicsSerialiser::describeObjects(const Physics& physics, LiveSetUp& saved) const
 {
-    const auto describeBlock = [this](auto& block, int lastUsedId, const auto& objects) {
+    const auto describeBlock = [this](auto& block, int lastUsedId, auto objects) {
         block.lastUsedId = lastUsedId;
         block.ids = idsOf(objects);
-        block.records.reserve(objects.size());
-        for (const auto* object : objects)
-            block.records.push_back(object->serialise(*this));
+        block.records = {std::move(objects), this};
     };
     const Registry& registry = *physics.m_registry;
     const std::vector<Boundary*> boundaries = registry.allBoundaries();

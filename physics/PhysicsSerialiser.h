@@ -75,10 +75,14 @@ private:
     PhysicsSerialiser() = default;
     explicit PhysicsSerialiser(Physics* physics) : m_physics(physics) {}
 
-    SavedSetUp describe(const Physics& physics);
-    void describeInteriors(const Physics& physics, SavedSetUp& saved);
-    void describeJoins(const Physics& physics, SavedSetUp& saved);
-    void describeObjects(const Physics& physics, SavedSetUp& saved) const;
+    template <class Record>
+    struct LiveBlock;
+    using LiveSetUp = SetUpRecord<LiveBlock>;
+
+    LiveSetUp describe(const Physics& physics);
+    void describeInteriors(const Physics& physics, LiveSetUp& saved);
+    void describeJoins(const Physics& physics, LiveSetUp& saved);
+    void describeObjects(const Physics& physics, LiveSetUp& saved) const;
 
     /// Ascending.
     std::vector<int> indicesOf(const std::set<gtm::Boundary*>& boundaries) const;

@@ -163,7 +163,7 @@ std::string Consistency::nearestId(const std::string& id) const
 // ---- The objects
 
 template <class Record>
-Consistency::ById<Record> Consistency::checkBlock(const Block<Record>& block)
+Consistency::ById<Record> Consistency::checkBlock(const ReadBlock<Record>& block)
 {
     std::unordered_set<int> announced;
     for (const int id : block.ids)

@@ -39,7 +39,7 @@ private:
     void checkPlace(const PlaceRecord& place, bool isDefaultActive, bool& hasDefault);
     void checkRegions(const LocationRecord& location);
     template <class Record>
-    ById<Record> checkBlock(const Block<Record>& block);
+    ById<Record> checkBlock(const ReadBlock<Record>& block);
     void checkModels();
     void checkVolumes();
     void checkBoundaries();

@@ -15,6 +15,13 @@
 
 namespace physics {
 
+class Boundary;
+class BoundaryPatch;
+class Interface;
+class Model;
+class Settings;
+class Volume;
+
 /// Where a location-model entity lies.
 struct LocationRecord {
     enum Code : int { Regions = 0, Implicit = 1, Default = 2 };
@@ -138,6 +145,8 @@ enum class SettingsMap { Volume, Internal, PatchVolume, PatchShell, PatchInterfa
 constexpr std::size_t noOfSettingsMaps = 6;
 
 struct ModelRecord {
+    using Object = Model;
+
     int version = 0;
     int id = 0;
     std::vector<int> volumes;
@@ -169,6 +178,8 @@ struct ModelRecord {
 };
 
 struct VolumeRecord {
+    using Object = Volume;
+
     int version = 0;
     int id = 0;
     VolumeType type = VolumeType::Unset;
@@ -200,6 +211,8 @@ struct VolumeRecord {
 };
 
 struct BoundaryRecord {
+    using Object = Boundary;
+
     int version = 0;
     int id = 0;
     BoundaryType type = BoundaryType::Unset;
@@ -233,6 +246,8 @@ struct BoundaryRecord {
 };
 
 struct InterfaceRecord {
+    using Object = Interface;
+
     int version = 0;
     int id = 0;
     InterfaceType type = InterfaceType::Unset;
@@ -269,6 +284,8 @@ struct InterfaceRecord {
 };
 
 struct PatchRecord {
+    using Object = BoundaryPatch;
+
     int version = 0;
     int id = 0;
     int boundary = -1;
@@ -310,6 +327,8 @@ struct BundleRecord {
 };
 
 struct SettingsRecord {
+    using Object = Settings;
+
     int version = 0;
     int id = 0;
     SettingsType type = SettingsType::VolumeSettings;
@@ -343,17 +362,19 @@ struct SettingsRecord {
     }
 };
 
-/// All objects of one class: the ids announced, the class's counter, and one record for each object.
+/// All objects of one class in a text that was read: the ids announced, the class's counter, and one record
+/// for each object.
 template <class Record>
-struct Block {
+struct ReadBlock {
     std::vector<int> ids;
     int lastUsedId = 0;
     std::vector<Record> records;
     std::size_t position = 0; ///< of the ids
 };
 
-/// A whole saved text.
-struct SavedSetUp {
+/// A whole saved text, with its objects in blocks of some kind.
+template <template <class Record> class Block>
+struct SetUpRecord {
     int version = 0;
     LocationRecord maskedBodies;
     bool isDefaultInteriorActive = false;
@@ -436,5 +457,8 @@ private:
         format.records(block.records, block.ids.size());
     }
 };
+
+/// A saved text that was read.
+struct SavedSetUp : SetUpRecord<ReadBlock> {};
 
 } // namespace physics

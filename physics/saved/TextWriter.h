@@ -79,6 +79,13 @@ public:
             Record::describe(*this, record);
     }
 
+    /// Records that are made as they are written.
+    template <class Records>
+    void records(const Records& records, std::size_t /*count*/)
+    {
+        records.forEach([this](const auto& record) { record.describe(*this, record); });
+    }
+
     void typeTables(const TypeManager& types);
 
     void begin(const std::size_t& /*position*/) {}
