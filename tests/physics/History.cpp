@@ -293,8 +293,7 @@ ThreadBundle* History::pickBundle(unsigned choice) const
     const Id key = pick(m_reference.bundles, choice);
     for (const auto& [bundle, keyOfBundle] : m_bundles)
         if (keyOfBundle == key)
-            return bundle->settings()->threadBundle(bundle->index()) == bundle ? const_cast<ThreadBundle*>(bundle)
-                                                                               : nullptr;
+            return const_cast<ThreadBundle*>(bundle);
     return nullptr;
 }
 

@@ -283,6 +283,18 @@ TEST_F(VolumeTest, hasADefaultBoundaryWhenOneWasMadeWhateverTheLocationModelSays
     EXPECT_TRUE(fluid->hasDefaultBoundary());
 }
 
+TEST_F(VolumeTest, aSecondDefaultBoundaryEndsTheFirstAlsoWhenTheLocationModelSwitchedThatOff)
+{
+    const int firstId = fluid->createDefaultBoundary("first")->id();
+    fluid->interior()->activateDefaultBoundary(false);
+
+    Boundary* second = fluid->createDefaultBoundary("second");
+
+    EXPECT_EQ(physics.findBoundaryById(firstId), nullptr);
+    EXPECT_EQ(fluid->boundaries(), Boundaries{second});
+    EXPECT_TRUE(fluid->interior()->isDefaultBoundaryActive());
+}
+
 TEST_F(VolumeTest, createsNoDefaultBoundaryWhereTheLocationModelHasNone)
 {
     answers().hasNoDefaultBoundary = true;
