@@ -35,11 +35,12 @@ GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> 
         gtm::bundled::CadOptions options;
         options.imprint = imprint;
         const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);
-        return {writeTopology(*result.model), result.notes};
+        return {writeTopology(*result.model), result.notes, result.renamed};
     });
     GeometryFile geometry;
     geometry.model = gtm::bundled::readTopologyText(reading.topology, file.string());
     geometry.notes = reading.notes;
+    geometry.renamed = reading.renamed;
     return geometry;
 }
 #else
@@ -110,6 +111,9 @@ GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool>
         }
     } catch (const gtm::bundled::TopologyError& error) {
         throw InputError(error.what());
+    }
+    if (extension == ".msh") {
+        throw InputError(file.string() + ": make a topology file of this mesh with physics-gmsh, and use that.");
     }
     throw InputError(file.string() +
                      ": cannot tell the kind of this file; its name should end in .json for a topology file, or in "

@@ -17,7 +17,7 @@ std::string answerOf(const std::function<TopologyText()>& read)
     json answer;
     try {
         const TopologyText reading = read();
-        answer = {{"topology", reading.topology}, {"notes", reading.notes}};
+        answer = {{"topology", reading.topology}, {"notes", reading.notes}, {"renamed", reading.renamed}};
     } catch (const std::exception& error) {
         answer = {{"error", error.what()}};
     }
@@ -38,7 +38,8 @@ TopologyText readInChild(const std::string& file, const std::string& library, co
     if (answer.contains("error")) {
         throw InputError(answer["error"].get<std::string>());
     }
-    return {answer["topology"].get<std::string>(), answer["notes"].get<std::vector<std::string>>()};
+    return {answer["topology"].get<std::string>(), answer["notes"].get<std::vector<std::string>>(),
+            answer["renamed"].get<std::map<std::string, std::string>>()};
 }
 
 } // namespace physics::apps

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@ namespace physics::apps {
 struct TopologyText {
     std::string topology; ///< as in a topology file
     std::vector<std::string> notes;
+    std::map<std::string, std::string> renamed = {}; ///< names in the file by id, where they differ
 };
 
 /// Runs a reader in a child process, because libraries that read geometry can crash over a damaged file. Throws

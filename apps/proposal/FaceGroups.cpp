@@ -22,12 +22,12 @@ using gtm::support::inQuotes;
 constexpr BoundaryMapping unknownBoundary{"", BoundaryType::Wall, Fidelity::Approximate,
                                           "nothing says what it is; a wall is assumed"};
 
-/// The name of a face behind that of a body; empty for "face-3", which only counts.
+/// The name of a face behind the id of a body; empty for "face-3", which only counts.
 std::string ownNameOf(const gtm::Face& face, const GeometryFile& geometry)
 {
     std::string name = geometry.nameOf(face.id());
     for (const gtm::FaceUse* use : {face.firstFaceUse(), face.secondFaceUse()}) {
-        const std::string start = use == nullptr ? "/" : geometry.nameOf(use->body()->id()) + "/";
+        const std::string start = use == nullptr ? "/" : use->body()->id() + "/";
         if (name.rfind(start, 0) == 0) {
             name.erase(0, start.size());
             break;

@@ -111,6 +111,7 @@ CadIds giveIds(const CadDescription& description)
         ids.faces.push_back(takeFaceId(use, ids.bodies[use.body], names));
         noteSecondNames(face, ids.faces.back(), ids);
     }
+    ids.renamed = names.renamed();
     return ids;
 }
 
@@ -130,7 +131,7 @@ CadResult buildModel(const CadDescription& description)
         builder.describeFace(ids.faces[i], description.faces[i].facts);
     }
 
-    CadResult result{builder.build(), description.notes, trianglesOf(description, ids)};
+    CadResult result{builder.build(), description.notes, ids.renamed, trianglesOf(description, ids)};
     result.notes.insert(result.notes.end(), ids.notes.begin(), ids.notes.end());
     return result;
 }

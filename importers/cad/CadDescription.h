@@ -3,6 +3,7 @@
 #include "importers/cad/CadReader.h"
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,6 +54,9 @@ struct CadIds {
     std::vector<std::string> bodies;
     std::vector<std::string> parts;
     std::vector<std::string> faces;
+
+    /// Each id that is not the name in the file, with that name.
+    std::map<std::string, std::string> renamed;
 
     /// Why an id is not the name in the file; one sentence each.
     std::vector<std::string> notes;

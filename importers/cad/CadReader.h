@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -51,8 +52,12 @@ struct CadResult {
     /// each, in the same order on every run.
     std::vector<std::string> notes;
 
+    /// The id of each part, body and face that is not called as in the file, with its name there; that of a face
+    /// follows the id of its body: "BODY/NAME".
+    std::map<std::string, std::string> renamed = {};
+
     /// One for each face, in their order, when they were asked for; a face that cannot be divided has none.
-    std::vector<CadTriangles> triangles;
+    std::vector<CadTriangles> triangles = {};
 };
 
 /// Reads a STEP or BREP file, told apart by content, not by name. Throws `CadError`.

@@ -96,6 +96,12 @@ TEST(CaseTool, aFileOfNoKnownKindIsRefused)
     EXPECT_EQ(run.code, 2);
 }
 
+TEST(CaseTool, aMeshOfAnotherProgramIsSentThere)
+{
+    EXPECT_EQ(ToolRun({"topology", "mesh.msh"}).err,
+              "mesh.msh: make a topology file of this mesh with physics-gmsh, and use that.\n");
+}
+
 TEST(CaseTool, aTopologyIsListed)
 {
     const ToolRun run({"topology", sourceFile("tests/data/bad-cases/boxes.json")});

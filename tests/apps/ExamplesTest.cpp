@@ -68,6 +68,26 @@ TEST(Examples, withoutImprintingTouchingBodiesKeepFacesOfTheirOwn)
     EXPECT_EQ(run.code, 0);
 }
 
+TEST(Examples, aNameThatCannotBeAnIdIsKeptInTheProposedCase)
+{
+    std::string content = contentOf(sourceFile("examples/fan_passage.step"));
+    for (std::size_t at = content.find("'motor'"); at != std::string::npos; at = content.find("'motor'", at)) {
+        content.replace(at, 7, "'mo,tor'");
+    }
+    const TemporaryFile geometry("renamed.step", content);
+    const TemporaryFile proposal("renamed.json", "");
+
+    const ToolRun run({"new", geometry.path(), "--force", "-o", proposal.path()});
+
+    EXPECT_NE(run.out.find("body \"mo,tor\""), std::string::npos);
+    EXPECT_NE(run.out.find("name \"mo,tor\""), std::string::npos);
+    EXPECT_NE(contentOf(proposal.path())
+                  .find("\"of\": \"region\",\n      \"name\": \"mo_tor\",\n      \"inFile\": "
+                        "\"mo,tor\""),
+              std::string::npos);
+    EXPECT_EQ(ToolRun({"build", proposal.path()}).code, 0);
+}
+
 TEST(Examples, aFileThatIsNoGeometryIsRefusedAtItsPlaceInTheCase)
 {
     const TemporaryFile geometry("broken.step", "no geometry at all\n");

@@ -278,15 +278,21 @@ TEST(Proposal, aPeriodicityThatWeDoNotHaveLeavesTwoBoundaries)
 
 TEST(Proposal, namesThatAreNotAsInTheFileAreKeptBesideTheirs)
 {
-    const Proposal proposal =
-        FileOf().bodies({"a_b"}).renamed("a_b", "a,b").face("a_b/x", "a_b").renamed("a_b/x", "a,b/in::let").proposal();
+    const Proposal proposal = FileOf()
+                                  .bodies({"a_b"})
+                                  .renamed("a_b", "a,b")
+                                  .face("a_b/x", "a_b")
+                                  .face("a_b/face-1", "a_b")
+                                  .renamed("a_b/x", "a_b/in::let")
+                                  .proposal();
 
     std::vector<std::string> names;
     for (const CaseFile::NameInFile& name : proposal.file.names) {
         names.push_back(name.of + " " + name.name + " = " + name.inFile);
     }
     EXPECT_EQ(proposal.file.volumes.at(0).name, "a,b");
-    EXPECT_THAT(names, ElementsAre("boundary a,b::in_let = in::let", "region a_b = a,b", "region a_b/x = a,b/in::let"));
+    EXPECT_EQ(proposal.file.volumes.at(0).boundaries.at(1).name, "rest");
+    EXPECT_THAT(names, ElementsAre("boundary a,b::in_let = in::let", "region a_b = a,b", "region a_b/x = a_b/in::let"));
 }
 
 } // namespace

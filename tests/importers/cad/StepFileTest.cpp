@@ -13,6 +13,8 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace {
 
 using cadtests::addTo;
@@ -222,6 +224,7 @@ TEST(StepFile, aNameThatCannotBeAnIdIsMappedAndTold)
     EXPECT_EQ(result.notes,
               (Strings{"Body \" water, cold \" is called \"water_ cold\" here, because an id has no comma, "
                        "no control character and no blank at its ends."}));
+    EXPECT_EQ(result.renamed, (std::map<std::string, std::string>{{"water_ cold", " water, cold "}}));
 }
 
 TEST(StepFile, bytesOfNoAlphabetDoNoHarm) { EXPECT_EQ(read(boxCalled("\xff\xfe\xe4")).model->bodies().size(), 1U); }
