@@ -346,6 +346,17 @@ TEST_F(ModelTest, handsTheSettingsOfAllPatchesOfAVolumeOn)
     EXPECT_EQ(contact->model(), model); // the interface stays
 }
 
+TEST_F(ModelTest, handsTheSettingsOfBoundariesThatAnEqualNameHidesOn)
+{
+    hot->createBoundary("hot wall", std::string("upper@left"), BoundaryType::Wall);
+    Settings* ofHidden = hotWall->nonOverlappingBoundarySettings();
+
+    hot->setModel(other);
+
+    EXPECT_EQ(ofHidden->model(), other);
+    EXPECT_EQ(other->volumeSettings(hotWall), SettingsList{ofHidden});
+}
+
 TEST_F(ModelTest, keepsAVolumeThatMovesToWhereItIs)
 {
     Settings* ofVolume = hot->settings();

@@ -200,6 +200,7 @@ TEST_F(SettingsTest, answerForTheirBundlesByIndex)
     EXPECT_EQ(settings->solverThreadType(-2), 7);
     EXPECT_EQ(settings->domainIds(4), (Ids{1, 3}));
     EXPECT_EQ(settings->threadBundleWithThreadId(9), second);
+    EXPECT_EQ(settings->threadBundleWithThreadId(5), first);
     EXPECT_EQ(physics.findSettingsByThreadId(9), settings);
 }
 
