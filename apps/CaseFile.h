@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/ReadingChoice.h"
 #include "physics/Types.h"
 
 #include <array>
@@ -105,7 +106,7 @@ struct CaseFile {
     struct Geometry {
         std::string path;
         std::string file; ///< as written: relative to the case file
-        std::optional<bool> imprint;
+        ReadingChoice reading;
     };
 
     /// What the geometry file calls something whose name in the case had to be another one.

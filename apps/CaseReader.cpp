@@ -260,7 +260,8 @@ void Reader::read(const JsonNode& node, CaseFile::Geometry& geometry)
     if (node.isString()) {
         file(node);
     } else if (node.isObject()) {
-        readObject(node, {required("file", file), optional("imprint", value(geometry.imprint))});
+        readObject(node, {required("file", file), optional("imprint", value(geometry.reading.imprint)),
+                          optional("bodiesAreFamilies", value(geometry.reading.bodiesAreFamilies))});
     } else {
         node.failExpected("the name of a geometry file, or an object with the key \"file\"");
     }

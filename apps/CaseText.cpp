@@ -143,10 +143,15 @@ struct Description {
 
     static Json describe(const CaseFile::Geometry& geometry)
     {
-        if (!geometry.imprint) {
+        if (geometry.reading.isAsUsual()) {
             return geometry.file;
         }
-        return {{"file", geometry.file}, {"imprint", *geometry.imprint}};
+        Json json = {{"file", geometry.file}};
+        if (geometry.reading.imprint) {
+            json["imprint"] = *geometry.reading.imprint;
+        }
+        add(json, "bodiesAreFamilies", geometry.reading.bodiesAreFamilies);
+        return json;
     }
 
     static Json describe(const CaseFile& file)

@@ -5,13 +5,12 @@
 #include "locationmodel/TopologyBuilder.h"
 #include "locationmodel/TopologyFile.h"
 
-#ifdef PHYSICS_HAS_CAD
+#if defined(PHYSICS_HAS_CAD) || defined(PHYSICS_HAS_CGNS)
 #include "apps/ReadInChild.h"
-#include "importers/cad/CadReader.h"
 #endif
 
-#ifdef PHYSICS_HAS_CGNS
-#include "importers/cgns/CgnsReader.h"
+#ifdef PHYSICS_HAS_CAD
+#include "importers/cad/CadReader.h"
 #endif
 
 #include <algorithm>
@@ -28,56 +27,77 @@ std::string extensionOf(const std::filesystem::path& file)
     return extension;
 }
 
-#ifdef PHYSICS_HAS_CAD
-GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> imprint)
+void refuseImprint(const ReadingChoice& choice, const std::string& kind, const std::filesystem::path& file)
 {
-    const TopologyText reading = readInChild(file.string(), "the geometry kernel", [&]() -> TopologyText {
-        gtm::bundled::CadOptions options;
-        options.imprint = imprint;
-        const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);
-        return {writeTopology(*result.model), result.notes, result.renamed};
-    });
+    if (choice.imprint) {
+        throw InputError(file.string() + ": " + kind +
+                         " has no shapes that could be imprinted; leave that choice out.");
+    }
+}
+
+void refuseFamilies(const ReadingChoice& choice, const std::string& kind, const std::filesystem::path& file)
+{
+    if (choice.bodiesAreFamilies) {
+        throw InputError(file.string() + ": " + kind +
+                         " has no families of zones that could be bodies; leave that choice out.");
+    }
+}
+
+#if defined(PHYSICS_HAS_CAD) || defined(PHYSICS_HAS_CGNS)
+GeometryFile geometryOf(TopologyText reading, const std::filesystem::path& file)
+{
     GeometryFile geometry;
     geometry.model = gtm::bundled::readTopologyText(reading.topology, file.string());
-    geometry.notes = reading.notes;
-    geometry.renamed = reading.renamed;
+    geometry.notes = std::move(reading.notes);
+    geometry.zones = std::move(reading.zones);
+    geometry.conditions = std::move(reading.conditions);
+    geometry.periodics = std::move(reading.periodics);
+    geometry.renamed = std::move(reading.renamed);
     return geometry;
-}
-#else
-GeometryFile readCadFile(const std::filesystem::path& file, std::optional<bool> /*imprint*/)
-{
-    throw InputError(file.string() + ": this program was built without the reader of geometry files; make a topology "
-                                     "file of it elsewhere.");
 }
 #endif
 
-GeometryFile readCgnsFile(const std::filesystem::path& file, std::optional<bool> imprint)
+GeometryFile readCadFile(const std::filesystem::path& file, const ReadingChoice& choice)
 {
-    if (imprint) {
-        throw InputError(file.string() + ": a mesh file has no shapes that could be imprinted; leave that choice out.");
-    }
+    refuseFamilies(choice, "a shape file", file);
+#ifdef PHYSICS_HAS_CAD
+    const auto read = [&]() -> TopologyText {
+        gtm::bundled::CadOptions options;
+        options.imprint = choice.imprint;
+        const gtm::bundled::CadResult result = gtm::bundled::readCad(file, options);
+        return {writeTopology(*result.model), result.notes, result.renamed};
+    };
+    return geometryOf(readInChild(file.string(), "the geometry kernel", read), file);
+#else
+    throw InputError(file.string() + ": this program was built without the reader of geometry files; make a topology "
+                                     "file of it elsewhere.");
+#endif
+}
+
+GeometryFile readCgnsFile(const std::filesystem::path& file, const ReadingChoice& choice)
+{
+    refuseImprint(choice, "a mesh file", file);
 #ifdef PHYSICS_HAS_CGNS
-    gtm::bundled::CgnsResult result = gtm::bundled::readCgns(file);
-    GeometryFile geometry;
-    geometry.model = std::move(result.model);
-    geometry.notes = std::move(result.notes);
-    geometry.zones = std::move(result.zones);
-    geometry.conditions = std::move(result.conditions);
-    geometry.periodics = std::move(result.periodics);
-    geometry.renamed = std::move(result.renamed);
-    return geometry;
+    const auto read = [&]() -> TopologyText {
+        const gtm::bundled::CgnsResult result = gtm::bundled::readCgns(file, {choice.bodiesAreFamilies});
+        return {writeTopology(*result.model),
+                result.notes,
+                result.renamed,
+                result.zones,
+                result.conditions,
+                result.periodics};
+    };
+    return geometryOf(readInChild(file.string(), "the library of CGNS files", read), file);
 #else
     throw InputError(file.string() + ": this program was built without the reader of CGNS files; make a topology file "
                                      "of it elsewhere.");
 #endif
 }
 
-GeometryFile readTopologyFile(const std::filesystem::path& file, std::optional<bool> imprint)
+GeometryFile readTopologyFile(const std::filesystem::path& file, const ReadingChoice& choice)
 {
-    if (imprint) {
-        throw InputError(file.string() + ": a topology file has no shapes that could be imprinted; leave that choice "
-                                         "out.");
-    }
+    refuseImprint(choice, "a topology file", file);
+    refuseFamilies(choice, "a topology file", file);
     GeometryFile geometry;
     geometry.model = gtm::bundled::readTopology(file);
     return geometry;
@@ -96,24 +116,21 @@ std::string GeometryFile::nameOf(const std::string& id) const
     return known == renamed.end() ? id : known->second;
 }
 
-GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool> imprint)
+GeometryFile readGeometry(const std::filesystem::path& file, const ReadingChoice& choice)
 {
     const std::string extension = extensionOf(file);
     try {
         if (extension == ".json") {
-            return readTopologyFile(file, imprint);
+            return readTopologyFile(file, choice);
         }
         if (extension == ".step" || extension == ".stp" || extension == ".brep" || extension == ".brp") {
-            return readCadFile(file, imprint);
+            return readCadFile(file, choice);
         }
         if (extension == ".cgns") {
-            return readCgnsFile(file, imprint);
+            return readCgnsFile(file, choice);
         }
     } catch (const gtm::bundled::TopologyError& error) {
         throw InputError(error.what());
-    }
-    if (extension == ".msh") {
-        throw InputError(file.string() + ": make a topology file of this mesh with physics-gmsh, and use that.");
     }
     throw InputError(file.string() +
                      ": cannot tell the kind of this file; its name should end in .json for a topology file, or in "

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "apps/ReadingChoice.h"
 #include "importers/cgns/CgnsReader.h"
 
 #include <filesystem>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,8 +38,7 @@ struct GeometryFile {
 };
 
 /// Reads a topology file (.json) or a geometry file (.step, .stp, .brep, .brp, .cgns; if this program was
-/// built with that reader). `imprint` says whether touching bodies of a geometry file are to share faces; unset
-/// leaves it to the reader. Throws `InputError`.
-GeometryFile readGeometry(const std::filesystem::path& file, std::optional<bool> imprint);
+/// built with that reader). Throws `InputError`, also for a way of reading that its kind of file does not have.
+GeometryFile readGeometry(const std::filesystem::path& file, const ReadingChoice& choice = {});
 
 } // namespace physics::apps

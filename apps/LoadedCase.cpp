@@ -62,7 +62,7 @@ GeometryFile readGeometryOf(const CaseFile& file, const JsonSource& source, cons
 {
     const Progress progress(output, "reading " + file.geometry.file);
     try {
-        return readGeometry(caseFile.parent_path() / file.geometry.file, file.geometry.imprint);
+        return readGeometry(caseFile.parent_path() / file.geometry.file, file.geometry.reading);
     } catch (const InputError& error) {
         throw InputError(source.place(file.geometry.path) + "the geometry cannot be used. " + error.what());
     }

@@ -16,7 +16,7 @@ std::variant<LoadedCase, RestoredSetUp> load(const std::filesystem::path& file, 
         throw InputError(file.string() + ": a saved text does not name its geometry; give it with --geometry. (The "
                                          "name of a case file ends in .json.)");
     }
-    return RestoredSetUp(options.geometry(), options.imprint(), file, output);
+    return RestoredSetUp(options.geometry(), options.reading(), file, output);
 }
 
 } // namespace

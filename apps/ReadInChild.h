@@ -1,5 +1,7 @@
 #pragma once
 
+#include "importers/cgns/CgnsReader.h"
+
 #include <functional>
 #include <map>
 #include <string>
@@ -12,6 +14,11 @@ struct TopologyText {
     std::string topology; ///< as in a topology file
     std::vector<std::string> notes;
     std::map<std::string, std::string> renamed = {}; ///< names in the file by id, where they differ
+
+    /// As in `GeometryFile`; empty for what has no such things.
+    std::vector<gtm::bundled::CgnsZone> zones = {};
+    std::vector<gtm::bundled::CgnsCondition> conditions = {};
+    std::vector<gtm::bundled::CgnsPeriodic> periodics = {};
 };
 
 /// Runs a reader in a child process, because libraries that read geometry can crash over a damaged file. Throws

@@ -21,13 +21,13 @@ std::string read(const std::filesystem::path& file)
 
 } // namespace
 
-RestoredSetUp::RestoredSetUp(const std::filesystem::path& geometry, std::optional<bool> imprint,
+RestoredSetUp::RestoredSetUp(const std::filesystem::path& geometry, const ReadingChoice& reading,
                              const std::filesystem::path& text, Output& output)
 {
     const std::string content = read(text);
     {
         const Progress progress(output, "reading " + geometry.string());
-        m_geometry = readGeometry(geometry, imprint);
+        m_geometry = readGeometry(geometry, reading);
     }
     for (const std::string& note : m_geometry.notes) {
         output.note(note);

@@ -4,7 +4,6 @@
 #include "apps/GeometryFile.h"
 
 #include <filesystem>
-#include <optional>
 
 namespace physics::apps {
 
@@ -15,8 +14,8 @@ class RestoredSetUp {
 public:
     /// Notes about the geometry go to `output`. Throws `InputError` with all reasons why the text cannot be
     /// restored, each behind the number of its line.
-    RestoredSetUp(const std::filesystem::path& geometry, std::optional<bool> imprint, const std::filesystem::path& text,
-                  Output& output);
+    RestoredSetUp(const std::filesystem::path& geometry, const ReadingChoice& reading,
+                  const std::filesystem::path& text, Output& output);
 
     const gtm::bundled::LocationModel& locationModel() const { return *m_geometry.model; }
 

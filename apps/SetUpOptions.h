@@ -1,9 +1,8 @@
 #pragma once
 
-#include "apps/ImprintOption.h"
+#include "apps/ReadingOptions.h"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,14 +20,14 @@ public:
     void addTo(CLI::App& app);
 
     const std::string& geometry() const { return m_geometry; }
-    std::optional<bool> imprint() const { return m_imprint.value(); }
+    ReadingChoice reading() const { return m_reading.value(); }
 
     /// Throws `InputError` when the options are given and none of the files is a saved text.
     void refuseWithout(const std::vector<std::string>& files) const;
 
 private:
     std::string m_geometry;
-    ImprintOption m_imprint;
+    ReadingOptions m_reading;
 };
 
 /// What verbs say about an argument that takes either form.

@@ -33,7 +33,7 @@ void NewVerb::addOptions(CLI::App& app)
         ->required();
     app.add_option("-o,--output", m_target, "The case file to write (*.json), whole or not at all")->required();
     app.add_flag("--force", m_isForced, "Replace a case file that is there already");
-    m_imprint.addTo(app);
+    m_reading.addTo(app);
 }
 
 ExitCode NewVerb::run(Output& output)
@@ -47,13 +47,13 @@ ExitCode NewVerb::run(Output& output)
     }
     const GeometryFile geometry = [&] {
         const Progress progress(output, "reading " + m_file);
-        return readGeometry(m_file, m_imprint.value());
+        return readGeometry(m_file, m_reading.value());
     }();
     for (const std::string& note : geometry.notes) {
         output.note(note);
     }
     Proposal proposal = propose(geometry);
-    proposal.file.geometry = {"", relativeTo(m_target, m_file), m_imprint.value()};
+    proposal.file.geometry = {"", relativeTo(m_target, m_file), m_reading.value()};
     try {
         gtm::support::writeWholeFile(m_target, writeCase(proposal.file));
     } catch (const gtm::support::FileError& error) {

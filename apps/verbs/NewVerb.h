@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/ImprintOption.h"
+#include "apps/ReadingOptions.h"
 #include "apps/Verb.h"
 
 namespace physics::apps {
@@ -17,7 +17,7 @@ private:
     std::string m_file;
     std::string m_target;
     bool m_isForced = false;
-    ImprintOption m_imprint;
+    ReadingOptions m_reading;
 };
 
 } // namespace physics::apps

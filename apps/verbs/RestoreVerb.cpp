@@ -13,12 +13,12 @@ void RestoreVerb::addOptions(CLI::App& app)
 {
     app.add_option("geometry", m_geometry, "The topology or geometry file that the set-up was made on")->required();
     app.add_option("text", m_text, "A saved text (docs/saved-text.md)")->required();
-    m_imprint.addTo(app);
+    m_reading.addTo(app);
 }
 
 ExitCode RestoreVerb::run(Output& output)
 {
-    const RestoredSetUp restored(m_geometry, m_imprint.value(), m_text, output);
+    const RestoredSetUp restored(m_geometry, m_reading.value(), m_text, output);
     listCase(restored.built(), output);
     return ExitCode::Fine;
 }

@@ -22,14 +22,14 @@ void TopologyVerb::addOptions(CLI::App& app)
     app.add_option("--format", m_format, "text: tables to read; json: a topology file")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();
-    m_imprint.addTo(app);
+    m_reading.addTo(app);
 }
 
 ExitCode TopologyVerb::run(Output& output)
 {
     const GeometryFile geometry = [&] {
         const Progress progress(output, "reading " + m_file);
-        return readGeometry(m_file, m_imprint.value());
+        return readGeometry(m_file, m_reading.value());
     }();
     for (const std::string& note : geometry.notes) {
         output.note(note);

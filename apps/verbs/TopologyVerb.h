@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/ImprintOption.h"
+#include "apps/ReadingOptions.h"
 #include "apps/Verb.h"
 
 namespace physics::apps {
@@ -16,7 +16,7 @@ public:
 private:
     std::string m_file;
     std::string m_format = "text";
-    ImprintOption m_imprint;
+    ReadingOptions m_reading;
 };
 
 } // namespace physics::apps

@@ -44,7 +44,8 @@ TEST(CaseReader, aFileThatSaysNothingHasTheDefaults)
     const CaseFile file = read(R"({"format": "physics-case", "version": 1, "geometry": "g.json"})");
 
     EXPECT_EQ(file.geometry.file, "g.json");
-    EXPECT_FALSE(file.geometry.imprint.has_value());
+    EXPECT_FALSE(file.geometry.reading.imprint.has_value());
+    EXPECT_FALSE(file.geometry.reading.bodiesAreFamilies);
     EXPECT_TRUE(file.enforceRestrictions);
     EXPECT_THAT(file.models, IsEmpty());
     EXPECT_THAT(file.volumes, IsEmpty());
@@ -59,7 +60,16 @@ TEST(CaseReader, theGeometryMayBeAnObjectWithAChoice)
 
     EXPECT_EQ(file.geometry.path, "/geometry");
     EXPECT_EQ(file.geometry.file, "a.step");
-    EXPECT_EQ(file.geometry.imprint, false);
+    EXPECT_EQ(file.geometry.reading.imprint, false);
+}
+
+TEST(CaseReader, theBodiesOfAMeshMayBeItsFamilies)
+{
+    const CaseFile file =
+        read(R"({"format": "physics-case", "version": 1, "geometry": {"file": "a.cgns", "bodiesAreFamilies": true}})");
+
+    EXPECT_TRUE(file.geometry.reading.bodiesAreFamilies);
+    EXPECT_FALSE(file.geometry.reading.imprint.has_value());
 }
 
 TEST(CaseReader, aVolumeIsReadWithItsBoundariesAndThreads)

@@ -61,6 +61,17 @@ TEST(CaseText, whatIsWrittenIsReadBackToTheSame)
     EXPECT_GE(noOfCases, 2);
 }
 
+TEST(CaseText, howTheGeometryIsReadComesBack)
+{
+    CaseFile file;
+    file.geometry = {"", "a.cgns", {std::nullopt, true}};
+
+    const nlohmann::json geometry = nlohmann::json::parse(writeCase(file))["geometry"];
+
+    EXPECT_EQ(geometry, (nlohmann::json{{"file", "a.cgns"}, {"bodiesAreFamilies", true}}));
+    EXPECT_TRUE(read(writeCase(file)).geometry.reading.bodiesAreFamilies);
+}
+
 TEST(CaseText, aNameThatIsNotUtf8IsRefused)
 {
     CaseFile file;

@@ -201,7 +201,7 @@ TEST(DiffVerb, optionsThatHaveNoUseAreRefused)
     const ToolRun run = diff(everything(), changed());
 
     EXPECT_EQ(run.err, everything() + ": a case file says itself which geometry it is about and how to read it; leave "
-                                      "--geometry, --imprint and --no-imprint out.\n");
+                                      "--geometry, --imprint, --no-imprint and --bodies-are-families out.\n");
     EXPECT_EQ(run.code, 2);
 }
 

@@ -81,7 +81,7 @@ TEST(ReportVerb, aSavedTextNeedsItsGeometryAndACaseDoesNot)
               "ends in .json.)\n");
     EXPECT_EQ(ToolRun({"report", "a.json", "--geometry", "b.json"}).err,
               "a.json: a case file says itself which geometry it is about and how to read it; leave --geometry, "
-              "--imprint and --no-imprint out.\n");
+              "--imprint, --no-imprint and --bodies-are-families out.\n");
     EXPECT_EQ(ToolRun({"report", "a.setup"}).code, 2);
 }
 
