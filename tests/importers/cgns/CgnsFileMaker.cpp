@@ -106,6 +106,12 @@ CgnsFileMaker::Node CgnsFileMaker::addReals(Node parent, const std::string& name
     return node;
 }
 
+void CgnsFileMaker::addLink(Node parent, const std::string& name, const std::string& file, const std::string& path)
+{
+    Node node = 0;
+    check(cgio_create_link(m_file, parent, padded(name).data(), file.c_str(), path.c_str(), &node));
+}
+
 CgnsFileMaker::Node CgnsFileMaker::addZone(const std::string& name, std::array<std::int64_t, 3> vertices)
 {
     const auto [i, j, k] = vertices;

@@ -46,6 +46,9 @@ public:
     Node addNumbers(Node parent, const std::string& name, const std::string& label, const Numbers& numbers);
     Node addReals(Node parent, const std::string& name, const std::string& label, const std::vector<double>& reals);
 
+    /// A node that stands for another one: of this file, when `file` is empty.
+    void addLink(Node parent, const std::string& name, const std::string& file, const std::string& path);
+
     /// A structured zone with coordinates, "ZoneBC" and "ZoneGridConnectivity" on demand.
     Node addZone(const std::string& name, std::array<std::int64_t, 3> vertices = {3, 3, 3});
 
