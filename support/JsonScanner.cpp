@@ -109,19 +109,30 @@ void JsonScanner::walk(const std::function<void(const std::string& pointer, std:
     } while (!open.empty());
 }
 
+/// Told by its place, not by the colon behind it, which may be missing.
 std::size_t JsonScanner::findKey(std::size_t number)
 {
-    for (m_at = 0;; ++m_at) {
-        if (m_text[m_at] != '"') {
+    std::string open; // the brackets around the place
+    bool isKeyNext = false;
+    for (m_at = 0;;) {
+        const char c = m_text[m_at];
+        if (c == '"') {
+            if (isKeyNext && --number == 0) {
+                return m_at;
+            }
+            isKeyNext = false;
+            readString();
             continue;
         }
-        const std::size_t start = m_at;
-        readString();
-        skipBlanks();
-        if (m_at < m_text.size() && m_text[m_at] == ':' && --number == 0) {
-            return start;
+        if (c == '{' || c == '[') {
+            open += c;
+        } else if (c == '}' || c == ']') {
+            open.pop_back();
         }
-        --m_at;
+        if (c == '{' || c == ',') {
+            isKeyNext = open.back() == '{';
+        }
+        ++m_at;
     }
 }
 

@@ -113,6 +113,14 @@ TEST(JsonSource, aKeyGivenTwiceInAnObjectIsRefusedAtItsSecondPlace)
               "a.json:2:10: the key \"a\" stands twice in one object; leave only one of them.");
 }
 
+TEST(JsonSource, aKeyGivenTwiceIsRefusedThereThoughItsColonIsMissing)
+{
+    EXPECT_EQ(refusalOf("{\"a\": [\"b\", {}],\n \"a\", \"c\": 1}"),
+              "a.json:2:2: the key \"a\" stands twice in one object; leave only one of them.");
+    EXPECT_EQ(refusalOf("{\"a\": 1, \"a\""),
+              "a.json:1:10: the key \"a\" stands twice in one object; leave only one of them.");
+}
+
 TEST(JsonSource, oneKeyInTwoObjectsIsFine)
 {
     EXPECT_EQ(refusalOf(R"([{"a": 1}, {"a": 2}, {"b": {"a": 1}, "a": 2}])"), "no error");
