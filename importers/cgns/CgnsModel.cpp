@@ -7,6 +7,8 @@
 #include "importers/cgns/ZoneSurface.h"
 #include "support/InQuotes.h"
 
+#include <array>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <utility>
@@ -19,6 +21,18 @@ using support::inQuotes;
 using Patch = CgnsDescription::Patch;
 using Selection = CgnsDescription::Selection;
 using Zone = CgnsDescription::Zone;
+
+bool areOpposite(const std::array<double, 3>& one, const std::array<double, 3>& other)
+{
+    constexpr double tolerance = 1e-4; // of single precision, and then some
+    double difference = 0;
+    double size = 0;
+    for (std::size_t i = 0; i < one.size(); ++i) {
+        difference += std::abs(one[i] + other[i]);
+        size += std::abs(one[i]) + std::abs(other[i]);
+    }
+    return difference <= tolerance * size;
+}
 
 class ModelMaker {
 public:
@@ -44,6 +58,7 @@ private:
     void addConnectivity(PatchPlace place, const std::string& id);
     void addOneSided(PatchPlace place, const std::string& id);
     void addPeriodic(PatchPlace place, PatchPlace answer, const std::string& id);
+    void doubtPeriodicity(PatchPlace place, PatchPlace answer);
     void addUncovered(const Zone& zone, ZoneState& state);
     void addFace(const std::string& id, std::optional<std::int32_t> ordinal, std::size_t zone,
                  std::optional<std::size_t> otherZone = std::nullopt,
@@ -246,6 +261,26 @@ void ModelMaker::addPeriodic(PatchPlace place, PatchPlace answer, const std::str
                                   how.angle, how.translation});
     note("The faces " + inQuotes(id) + " and " + inQuotes(otherId) + " are periodic by " +
          (rotates ? "rotation" : "translation") + " in the file; make an interface of them.");
+    doubtPeriodicity(place, answer);
+}
+
+/// What leads there and what leads back must undo each other.
+void ModelMaker::doubtPeriodicity(PatchPlace place, PatchPlace answer)
+{
+    const std::optional<CgnsDescription::Periodicity>& there = patchAt(place).periodicity;
+    const std::optional<CgnsDescription::Periodicity>& back = patchAt(answer).periodicity;
+    if (!there || !back) {
+        note("Only " + std::string(there ? "the first" : "the second") + " of " + textOf(place) + " and " +
+             textOf(answer) + " is periodic; what it says is taken.");
+        return;
+    }
+    const bool rotates = there->angle != std::array<double, 3>{};
+    const bool isOpposite = rotates ? areOpposite(there->angle, back->angle)
+                                    : back->angle == there->angle && areOpposite(there->translation, back->translation);
+    if (!isOpposite) {
+        note(textOf(place) + " and " + textOf(answer) +
+             " are periodic, but do not undo each other; what the first says is taken.");
+    }
 }
 
 void ModelMaker::addOneSided(PatchPlace place, const std::string& id)
