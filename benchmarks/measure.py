@@ -32,6 +32,7 @@ PROGRAMS = {
     "memory-benchmark": Program(largest=100000),
     "named-conditions-benchmark": Program(largest=10000, largest_when_quick=1000),
     "location-model-benchmark": Program(largest=100000),
+    "cgns-benchmark": Program(largest=100000, largest_when_quick=1000),
 }
 
 

@@ -103,6 +103,7 @@ TABLES = {
     "chain": ("chain-benchmark", chain_table),
     "memory": ("memory-benchmark", counter_table),
     "named conditions": ("named-conditions-benchmark", beside_table),
+    "mesh files": ("cgns-benchmark", beside_table),
 }
 
 # What the library is to reach, each with how it is found out from the results of all programs.
