@@ -125,6 +125,12 @@ CgnsNodes FileNode::children() const
         handles.emplace_back(m_handle.file(), ids[static_cast<std::size_t>(i)]);
     }
     check(error, "children");
+    if (found < count) {
+        // The file library passes over what it cannot open.
+        throw CgnsError("only " + std::to_string(found) + " of the " + std::to_string(count) +
+                        " nodes below the node " + inQuotes(m_name) +
+                        " can be read; the file is damaged, copy or export it again.");
+    }
     nodes.reserve(handles.size());
     for (NodeHandle& handle : handles) {
         nodes.push_back(std::make_unique<FileNode>(std::move(handle), m_fileSize));
