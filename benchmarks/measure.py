@@ -36,8 +36,8 @@ PROGRAMS = {
 }
 
 
-def sizes_of(program, quick):
-    largest = program.largest_when_quick if quick else program.largest
+def sizes_of(program, quick, most=SIZES[-1]):
+    largest = min(most, program.largest_when_quick if quick else program.largest)
     return [size for size in (QUICK_SIZES if quick else SIZES) if size <= largest]
 
 
@@ -76,12 +76,12 @@ def machine():
     return f"{os.cpu_count()} cores of {model[1] if model else 'an unknown processor'}, {system[1]}, GCC {version}"
 
 
-def run(folder, name, quick):
-    """What one program measures: its command, machine, date, and {name: {size: {counter: median}}}."""
+def run(folder, name, quick, most=SIZES[-1]):
+    """What one program measures up to a size: its command, machine, date, and {name: {size: {counter: median}}}."""
     program = PROGRAMS[name]
     load = round(os.getloadavg()[0], 1)
     rows = {}
-    for size in sizes_of(program, quick):
+    for size in sizes_of(program, quick, most):
         print(f"bench: {name}, {size}", flush=True)
         command = [os.path.join(folder, name), f"--benchmark_filter={program.names}/{size}(/|$)", *options(quick, size)]
         output = subprocess.run([*command, "--benchmark_format=json"], check=True, stdout=subprocess.PIPE,

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Measures, and writes tables and picture of the page about performance; called by scripts/bench.
 
-    performance.py FOLDER [--quick] [PROGRAM...]
+    performance.py FOLDER [--quick] [--up-to SIZE] [PROGRAM...]
 
 FOLDER holds the benchmark programs. What was measured is kept in FOLDER/measured.json, so that programs that are not
 named keep their figures. A quick run is for a look: it writes into FOLDER and leaves docs/ alone."""
 
+import argparse
 import json
 import os
 import sys
@@ -30,7 +31,7 @@ def store(path, text):
     print(f"bench: wrote {os.path.relpath(path)}")
 
 
-def main(folder, quick, names):
+def main(folder, quick, most, names):
     unknown = [name for name in names if name not in measure.PROGRAMS]
     if unknown:
         print(f"bench: \"{unknown[0]}\" is no benchmark; there are {', '.join(measure.PROGRAMS)}", file=sys.stderr)
@@ -38,7 +39,7 @@ def main(folder, quick, names):
     kept = os.path.join(folder, "measured-quickly.json" if quick else "measured.json")
     results = load(kept)
     for name in names or measure.PROGRAMS:
-        results[name] = measure.run(folder, name, quick)
+        results[name] = measure.run(folder, name, quick, most)
         store(kept, json.dumps(results, indent=1))
 
     with open(os.path.join(ROOT, "docs/performance.md"), encoding="utf-8") as file:
@@ -51,7 +52,10 @@ def main(folder, quick, names):
 
 
 if __name__ == "__main__":
-    ARGUMENTS = sys.argv[1:]
-    QUICK = "--quick" in ARGUMENTS
-    FOLDER, *NAMES = [argument for argument in ARGUMENTS if argument != "--quick"]
-    sys.exit(main(FOLDER, QUICK, NAMES))
+    PARSER = argparse.ArgumentParser()
+    PARSER.add_argument("folder")
+    PARSER.add_argument("--quick", action="store_true")
+    PARSER.add_argument("--up-to", type=int, choices=measure.SIZES, default=measure.SIZES[-1])
+    PARSER.add_argument("program", nargs="*")
+    GIVEN = PARSER.parse_intermixed_args()
+    sys.exit(main(GIVEN.folder, GIVEN.quick, GIVEN.up_to, GIVEN.program))

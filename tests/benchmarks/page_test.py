@@ -41,6 +41,10 @@ class MeasureTest(unittest.TestCase):
         self.assertEqual(measure.sizes_of(measure.Program(), quick=True), [1000, 10000])
         self.assertEqual(measure.sizes_of(measure.Program(largest=100000), quick=False), [1000, 10000, 100000])
 
+    def test_a_run_up_to_a_size_leaves_larger_cases_out(self):
+        self.assertEqual(measure.sizes_of(measure.Program(), quick=False, most=10000), [1000, 10000])
+        self.assertEqual(measure.sizes_of(measure.Program(largest=1000), quick=False, most=10000), [1000])
+
 
 class PageTest(unittest.TestCase):
     def test_three_digits_of_a_figure_are_shown(self):
