@@ -132,6 +132,9 @@ GeometryFile readGeometry(const std::filesystem::path& file, const ReadingChoice
     } catch (const gtm::bundled::TopologyError& error) {
         throw InputError(error.what());
     }
+    if (extension == ".msh") {
+        throw InputError(file.string() + ": make a topology file of this mesh with physics-gmsh, and use that.");
+    }
     throw InputError(file.string() +
                      ": cannot tell the kind of this file; its name should end in .json for a topology file, or in "
                      ".step, .stp, .brep, .brp or .cgns for a geometry file.");
