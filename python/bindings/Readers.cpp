@@ -45,6 +45,7 @@ using CgnsAnswer = std::tuple<std::shared_ptr<Geometry>, std::vector<Condition>,
 }
 #endif
 
+#if defined(PHYSICS_HAS_CAD) || defined(PHYSICS_HAS_CGNS)
 Lines linesOf(const std::vector<std::string>& texts)
 {
     Lines lines;
@@ -53,7 +54,6 @@ Lines linesOf(const std::vector<std::string>& texts)
     return lines;
 }
 
-#if defined(PHYSICS_HAS_CAD) || defined(PHYSICS_HAS_CGNS)
 Triple tripleOf(const std::array<double, 3>& values) { return {values[0], values[1], values[2]}; }
 #endif
 
