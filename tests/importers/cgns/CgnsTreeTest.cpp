@@ -10,6 +10,13 @@
 #include <sstream>
 #include <string>
 
+// HDF5 loses a few bytes of its own for each damaged node that it refuses; what we hold is given back, or the
+// tests that read without end would end.
+extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
+{
+    return "leak:libhdf5";
+}
+
 namespace {
 
 using cgnstests::CgnsFileMaker;
