@@ -12,7 +12,8 @@
 
 // HDF5 loses a few bytes of its own for each damaged node that it refuses; what we hold is given back, or the
 // tests that read without end would end.
-extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
+extern "C" __attribute__((visibility("default"))) const char* // NOLINTNEXTLINE(bugprone-reserved-identifier)
+__lsan_default_suppressions()
 {
     return "leak:libhdf5";
 }
