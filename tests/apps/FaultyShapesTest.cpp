@@ -1,9 +1,9 @@
 #include "tests/apps/ProgramRun.h"
 #include "tests/apps/ToolRun.h"
+#include "tests/importers/cad/StepText.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <random>
@@ -11,6 +11,9 @@
 #include <vector>
 
 namespace {
+
+using cadtests::replaced;
+using cadtests::stepWithData;
 
 /// One way in which a geometry file can be bad, and what the program says of it behind its name.
 struct Faulty {
@@ -20,21 +23,6 @@ struct Faulty {
 };
 
 std::string step() { return contentOf(sourceFile("examples/fan_passage.step")); }
-
-std::string replaced(std::string text, const std::string& what, const std::string& with)
-{
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), with);
-}
-
-/// A STEP file without any body, in the grammar of STEP.
-std::string stepWithData(const std::string& data)
-{
-    return "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
-           "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n" +
-           data + "ENDSEC;\nEND-ISO-10303-21;\n";
-}
 
 const std::string neither =
     "the file is neither STEP, which begins with \"ISO-10303-21;\", nor BREP, which begins with \"CASCADE Topology\"; "

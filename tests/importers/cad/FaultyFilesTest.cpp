@@ -2,6 +2,7 @@
 
 #include "tests/importers/cad/Listing.h"
 #include "tests/importers/cad/Shapes.h"
+#include "tests/importers/cad/StepText.h"
 
 #include <TDF_Label.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -18,6 +19,8 @@ using cadtests::brepOf;
 using cadtests::contentOf;
 using cadtests::first;
 using cadtests::messageOf;
+using cadtests::replaced;
+using cadtests::stepWithData;
 using cadtests::TemporaryFile;
 using gtm::bundled::readCad;
 
@@ -37,20 +40,6 @@ std::string skin(const TopoDS_Shape& shape)
 
 /// The text up to, and without, the last occurrence of `mark`.
 std::string upTo(const std::string& text, const std::string& mark) { return text.substr(0, text.rfind(mark)); }
-
-std::string replaced(std::string text, const std::string& what, const std::string& with)
-{
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), with);
-}
-
-std::string stepWithData(const std::string& data)
-{
-    return "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
-           "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n" +
-           data + "ENDSEC;\nEND-ISO-10303-21;\n";
-}
 
 std::string damagedIn(std::ptrdiff_t line)
 {

@@ -3,6 +3,7 @@
 #include "importers/cad/CadDescription.h"
 #include "tests/importers/cad/Listing.h"
 #include "tests/importers/cad/Shapes.h"
+#include "tests/importers/cad/StepText.h"
 
 #include <Quantity_Color.hxx>
 #include <TDF_Label.hxx>
@@ -25,6 +26,7 @@ using cadtests::first;
 using cadtests::listingOf;
 using cadtests::nameSubShape;
 using cadtests::product;
+using cadtests::replaced;
 using cadtests::shifted;
 using cadtests::stepOf;
 using gtm::bundled::buildModel;
@@ -39,13 +41,6 @@ std::string bodiesOf(const CadResult& result)
 {
     const std::string listing = listingOf(*result.model);
     return listing.substr(0, listing.find("face "));
-}
-
-std::string replaced(std::string text, const std::string& what, const std::string& with)
-{
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), with);
 }
 
 /// The kernel's writer gives solids names of its own choice.

@@ -13,23 +13,6 @@
 namespace physics {
 namespace {
 
-const std::string freshSection =
-    "0\n"
-    "3\n"
-    "4 0 7 14 17\n"
-    "19 1 0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17\n"
-    "19 2 0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17\n"
-    "5\n"
-    "21 0 3 0 0 1 13 0 1 2 3 4 5 6 7 9 11 12 13 17 2 0\n"
-    "38 1 3 0 2 7 17 1 14 0 1 2 3 4 5 6 7 9 10 11 12 13 17 2 14 0 1 2 3 4 5 6 7 9 10 11 12 13 17\n"
-    "22 2 3 0 0 1 14 0 1 2 3 4 5 6 7 9 10 11 12 13 17 2 0\n"
-    "22 3 3 0 0 1 14 0 1 2 3 4 5 6 7 9 10 11 12 13 17 2 0\n"
-    "11 4 3 0 1 7 1 1 7 2 1 7\n"
-    "1\n"
-    "2 0 7\n"
-    "26 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26\n"
-    "6 0 0 1 1 2 2\n";
-
 /// The tables after a section was read into fresh ones, and what the reader said about it.
 struct Restored {
     explicit Restored(const std::string& section)
@@ -63,20 +46,20 @@ TEST(TypeTables, freshTablesAreFifteenLines)
     TextWriter writer;
     writer.typeTables(TypeManager());
 
-    EXPECT_EQ(writer.take(), freshSection);
+    EXPECT_EQ(writer.take(), typeTables);
 }
 
 TEST(TypeTables, sectionThatWasReadIsWrittenTheSame)
 {
-    const Restored restored(freshSection);
+    const Restored restored(typeTables);
 
     EXPECT_EQ(restored.complaint, "");
-    EXPECT_EQ(restored.written(), freshSection);
+    EXPECT_EQ(restored.written(), typeTables);
 }
 
 TEST(TypeTables, repeatedKeysComeBackAsDefaultTypes)
 {
-    Restored restored(freshSection);
+    Restored restored(typeTables);
 
     EXPECT_EQ(restored.types.defaultBoundaryType(VolumeType::Solid), BoundaryType::VelocityInlet);
     EXPECT_EQ(restored.types.defaultBoundaryType(VolumeType::Fluid), BoundaryType::MassFlowInlet);
@@ -85,7 +68,7 @@ TEST(TypeTables, repeatedKeysComeBackAsDefaultTypes)
 
 TEST(TypeTables, tablesThatWereReadAnswerLikeFreshOnes)
 {
-    Restored restored(freshSection);
+    Restored restored(typeTables);
     TypeManager fresh;
 
     EXPECT_EQ(restored.types.allowedBoundaryTypes(), fresh.allowedBoundaryTypes());
@@ -96,15 +79,12 @@ TEST(TypeTables, tablesThatWereReadAnswerLikeFreshOnes)
     EXPECT_EQ(restored.types.allowedThreadTypes(), fresh.allowedThreadTypes());
 }
 
-TEST(TypeTables, formatNumberIsNotLookedAt)
-{
-    EXPECT_EQ(Restored("7" + freshSection.substr(1)).written(), freshSection);
-}
+TEST(TypeTables, formatNumberIsNotLookedAt) { EXPECT_EQ(Restored("7" + typeTables.substr(1)).written(), typeTables); }
 
 TEST(TypeTables, emptyVolumeBlockLeavesNoBoundaryTypes)
 {
     // The interface block is full: what no allowed volume type carries does not count.
-    std::string text = freshSection;
+    std::string text = typeTables;
     text.replace(text.find("3\n"), text.find("5\n") - text.find("3\n"), "0\n");
     Restored restored(text);
 
@@ -206,11 +186,11 @@ TEST(TypeTables, valuesOutsideTheEnumerationsAreKept)
 
 TEST(TypeTables, numbersMayStandOnAnyLine)
 {
-    std::string text = freshSection;
+    std::string text = typeTables;
     for (char& c : text)
         c = c == '\n' ? '\t' : c;
 
-    EXPECT_EQ(Restored(text).written(), freshSection);
+    EXPECT_EQ(Restored(text).written(), typeTables);
 }
 
 TEST(TypeTables, sectionThatEndsTooEarlyIsNoticed)
@@ -233,7 +213,7 @@ TEST(TypeTables, localeOfTheProcessDoesNotMatter)
 {
     const GroupedDigits locale;
 
-    EXPECT_EQ(Restored(freshSection).written(), freshSection);
+    EXPECT_EQ(Restored(typeTables).written(), typeTables);
 }
 
 } // namespace
