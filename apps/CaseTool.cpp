@@ -1,7 +1,7 @@
 #include "apps/CaseTool.h"
 
+#include "apps/CommandLine.h"
 #include "apps/InputError.h"
-#include "apps/Output.h"
 #include "apps/verbs/BuildVerb.h"
 #include "apps/verbs/CheckVerb.h"
 #include "apps/verbs/DiffVerb.h"
@@ -17,9 +17,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <exception>
-#include <ostream>
-#include <sstream>
 
 namespace physics::apps {
 namespace {
@@ -40,15 +37,6 @@ void refuseUnknownVerb(const std::vector<std::unique_ptr<Verb>>& verbs, const st
     }
 }
 
-/// The parser's message as one line of ours.
-std::string lineOf(const CLI::ParseError& error)
-{
-    std::string line = error.what();
-    line.erase(line.find_last_not_of(".\r\n ") + 1);
-    std::replace(line.begin(), line.end(), '\n', ' ');
-    return "physics-case: " + line + "; try \"physics-case --help\".";
-}
-
 ExitCode parseAndRun(const std::vector<std::string>& arguments, Output& output)
 {
     CLI::App app("Builds and looks at the physics set-up of fluid-dynamics cases.", "physics-case");
@@ -61,13 +49,8 @@ ExitCode parseAndRun(const std::vector<std::string>& arguments, Output& output)
         verb->addOptions(*parsers.back());
     }
     refuseUnknownVerb(verbs, arguments);
-    try {
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::Success& help) {
-        app.exit(help, output.out(), output.out());
+    if (!parseCommandLine(app, arguments, output)) {
         return ExitCode::Fine;
-    } catch (const CLI::ParseError& error) {
-        throw InputError(lineOf(error));
     }
     const auto used =
         std::find_if(parsers.begin(), parsers.end(), [](const CLI::App* parser) { return parser->parsed(); });
@@ -93,22 +76,7 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
 
 ExitCode runCaseTool(const std::vector<std::string>& arguments, Output& output)
 {
-    try {
-        const ExitCode code = parseAndRun(arguments, output);
-        if (!output.out().flush()) {
-            throw InputError("physics-case: cannot write the result; is the disk full?");
-        }
-        return code;
-    } catch (const InputError& error) {
-        for (const std::string& line : error.lines()) {
-            output.complain(line);
-        }
-        return ExitCode::BadInput;
-    } catch (const std::exception& error) {
-        output.complain("physics-case: a fault of this program: " + std::string(error.what()) +
-                        ". Please report it together with the input.");
-        return ExitCode::OurFault;
-    }
+    return runProgram("physics-case", output, [&] { return parseAndRun(arguments, output); });
 }
 
 } // namespace physics::apps

@@ -1,5 +1,6 @@
 #include "apps/gmsh/MeshTool.h"
 
+#include "apps/CommandLine.h"
 #include "apps/InputError.h"
 #include "apps/Output.h"
 #include "apps/Progress.h"
@@ -12,7 +13,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <exception>
 #include <ostream>
 
 namespace physics::apps {
@@ -57,31 +57,14 @@ ExitCode parseAndRun(const std::vector<std::string>& arguments, Output& output)
     app.add_option("mesh", file, "A mesh file, MSH 4.1 or 2.2, text or binary")->required();
     app.add_option("-o,--output", target, "The topology file; without it, standard output");
     app.footer("Exit code: 0 fine, 2 usage or unreadable input, 3 a fault of ours.");
-    try {
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::Success& help) {
-        app.exit(help, output.out(), output.out());
-        return ExitCode::Fine;
-    } catch (const CLI::ParseError& error) {
-        throw InputError("physics-gmsh: " + std::string(error.what()) + "; try \"physics-gmsh --help\".");
-    }
-    return run(file, target, output);
+    return parseCommandLine(app, arguments, output) ? run(file, target, output) : ExitCode::Fine;
 }
 
 } // namespace
 
 ExitCode runMeshTool(const std::vector<std::string>& arguments, Output& output)
 {
-    try {
-        return parseAndRun(arguments, output);
-    } catch (const InputError& error) {
-        output.complain(error.what());
-        return ExitCode::BadInput;
-    } catch (const std::exception& error) {
-        output.complain("physics-gmsh: a fault of this program: " + std::string(error.what()) +
-                        ". Please report it together with the input.");
-        return ExitCode::OurFault;
-    }
+    return runProgram("physics-gmsh", output, [&] { return parseAndRun(arguments, output); });
 }
 
 } // namespace physics::apps

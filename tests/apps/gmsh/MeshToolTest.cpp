@@ -194,6 +194,38 @@ TEST(MeshTool, aFileThatIsNotThereAndAFolderAreRefused)
     EXPECT_EQ(MeshRun({"/"}).code, 2);
 }
 
+TEST(MeshTool, aWrongCommandLineIsRefusedInOneLine)
+{
+    const MeshRun run({});
+
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "physics-gmsh: mesh is required; try \"physics-gmsh --help\".\n");
+    EXPECT_EQ(run.code, 2);
+}
+
+TEST(MeshTool, theHelpIsAResult)
+{
+    const MeshRun run({"--help"});
+
+    EXPECT_THAT(run.out, HasSubstr("Makes a topology file of a mesh file of Gmsh."));
+    EXPECT_THAT(run.out, HasSubstr("Exit code: 0 fine, 2 usage or unreadable input, 3 a fault of ours."));
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.code, 0);
+}
+
+TEST(MeshTool, aTopologyThatCannotBeWrittenIsAnError)
+{
+    const TwoBoxes boxes(TwoBoxes::Kernel::OwnOfTheMesher);
+    const TemporaryFile mesh("mesh.msh", TwoBoxes::written(4.1, false));
+    std::ostringstream out;
+    std::ostringstream err;
+    out.setstate(std::ios::badbit);
+    physics::apps::Output output(out, err, false, false);
+
+    EXPECT_EQ(runMeshTool({mesh.path()}, output), physics::apps::ExitCode::BadInput);
+    EXPECT_EQ(err.str(), "physics-gmsh: cannot write the result; is the disk full?\n");
+}
+
 /// Whatever is done to a file, the program ends by itself, with a topology or with a sentence.
 TEST(MeshTool, noDamageMakesTheProgramCrash)
 {
