@@ -31,6 +31,7 @@ struct InteriorAnswers {
     /// Refuses the next `createBoundary`, once.
     std::optional<gtm::Boundary::State> refuseNextBoundary;
     bool hasNoDefaultBoundary = false;
+    bool hasNoLocation = false;
 };
 
 struct BoundaryAnswers {
@@ -40,6 +41,7 @@ struct BoundaryAnswers {
     std::optional<std::vector<gtm::FaceUse*>> overlap;
     std::optional<std::vector<std::string>> unresolvableNames;
     std::optional<bool> isInternal;
+    bool hasNoLocation = false;
     std::optional<gtm::Boundary*> pair;
     std::optional<gtm::Boundary::State> relocateResult;
     std::optional<bool> removeResult;

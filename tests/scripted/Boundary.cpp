@@ -94,7 +94,11 @@ std::string Boundary::rename(const std::string& name)
 
 Interior* Boundary::interior() const { return &scriptedOf(this)->owner(); }
 
-const Location* Boundary::location() const { return scriptedOf(this)->location(); }
+const Location* Boundary::location() const
+{
+    const auto* self = scriptedOf(this);
+    return self->answers().hasNoLocation ? nullptr : self->location();
+}
 
 bool Boundary::isDefaultBoundary() const { return !scriptedOf(this)->location(); }
 

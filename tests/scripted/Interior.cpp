@@ -301,7 +301,11 @@ std::vector<std::string> Interior::unresolvableNames() const
     return asks ? self->location()->unknownTerms() : std::vector<std::string>();
 }
 
-const Location* Interior::location() const { return scriptedOf(this)->location(); }
+const Location* Interior::location() const
+{
+    const auto* self = scriptedOf(this);
+    return self->answers().hasNoLocation ? nullptr : self->location();
+}
 
 bool Interior::isDefaultInterior() const { return !scriptedOf(this)->location(); }
 

@@ -367,6 +367,36 @@ Made readBack()
     return made;
 }
 
+Made gaps()
+{
+    Made made = std::make_unique<SetUp>("gaps");
+    scripted::World& world = made->world;
+    gtm::Body* tank = world.body("tank");
+    gtm::Body* pipe = world.body("pipe");
+    const auto joint = world.face("joint", tank, pipe);
+    const auto lid = world.face("lid", tank);
+    world.face("end", pipe);
+
+    Physics& physics = made->begin();
+    Volume* vessel = physics.createVolume("vessel", std::string("tank"), VolumeType::Fluid);
+    Volume* well = physics.createVolume("well", std::string("pipe"), VolumeType::Fluid);
+    Boundary* out = vessel->createBoundary("out", std::string("joint@tank"));
+    Boundary* in = well->createBoundary("in", std::string("joint@pipe"));
+    Interface* passage = physics.createInterface("passage", out, in, InterfaceType::Interior);
+
+    scripted::InteriorAnswers& ofVessel = scripted::answersOf(vessel->interior());
+    ofVessel.hasNoLocation = true;
+    ofVessel.bodies = {tank, nullptr};
+    ofVessel.unusedFaceUses = {nullptr, lid.first};
+    ofVessel.internalFaces = {nullptr};
+    ofVessel.unusedInternalFaces = {nullptr, nullptr};
+    scripted::BoundaryAnswers& ofOut = scripted::answersOf(out->boundary());
+    ofOut.hasNoLocation = true;
+    ofOut.faceUses = {joint.first, nullptr};
+    scripted::answersOf(passage->interface()).state = gtm::Interface::State::MoreThanOneVolumePerSide;
+    return made;
+}
+
 std::vector<Made (*)()> all()
 {
     std::vector<Made (*)()> setUps = allWithObjects();
@@ -376,7 +406,7 @@ std::vector<Made (*)()> all()
 
 std::vector<Made (*)()> allWithObjects()
 {
-    return {defaults, periodic, models, inactive, faults, longLists, foreign, leftBehind, warnings, readBack};
+    return {defaults, periodic, models, inactive, faults, longLists, foreign, leftBehind, warnings, readBack, gaps};
 }
 
 } // namespace physics::setups

@@ -36,6 +36,7 @@ Made foreign();    // names that are not ASCII, or have blanks
 Made leftBehind(); // a destroyed model, an ended interface, thread ids that nobody is found under
 Made warnings();   // what is wrong only as long as warnings count, an empty default volume, a masked body alone
 Made readBack();   // settings of patches in their interface, other default types, a bundle under another's thread id
+Made gaps();       // locations and regions that are missing, an interface with several volumes on a side
 
 std::vector<Made (*)()> all();
 std::vector<Made (*)()> allWithObjects();
