@@ -22,6 +22,7 @@ public:
     }
 
 protected:
+    /// Neither is owned, nor null; both live as long as the face use.
     FaceUse(Face* face, Body* body) : m_face(face), m_body(body) {}
     ~FaceUse() override = default;
 

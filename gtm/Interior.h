@@ -21,13 +21,14 @@ class VirtualTopology;
 /// A named set of bodies: where a volume lies. Owned by its `VirtualTopology`.
 class GTM_EXPORT Interior {
 public:
+    /// How an interior lies in the geometry. The numbers are the same in `Boundary` and `Interface`.
     enum class State : std::int32_t {
-        Valid = 0,
-        Empty = 1,
-        Unresolvable = 2,
-        Incomplete = 10,
-        Inconsistent = 11,
-        Overlapping = 12,
+        Valid = 0,         ///< nothing is wrong
+        Empty = 1,         ///< it stands for no body
+        Unresolvable = 2,  ///< a term of the location cannot be read, or names nothing
+        Incomplete = 10,   ///< part of its outside is in none of its boundaries
+        Inconsistent = 11, ///< the location names a face or a face use
+        Overlapping = 12,  ///< another interior has one of the bodies
     };
 
     Interior(const Interior&) = delete;
@@ -36,6 +37,7 @@ public:
     /// The text of a state for messages; its wording belongs to the location model.
     static std::string stateAsString(State state);
 
+    /// The name that was asked for last, unless the location model had to choose another one.
     std::string name() const;
 
     /// Asks for a new name and returns the name that the interior has afterwards.
@@ -44,15 +46,22 @@ public:
     /// Creates a boundary of this interior and says how it lies there. With `enforceRestrictions`,
     /// anything but `Valid` is a refusal: the pointer is null and the state says why. Without, the
     /// boundary exists in any state.
+    /// @{
     std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::string& location,
                                                          bool enforceRestrictions);
     std::pair<Boundary*, Boundary::State> createBoundary(const std::string& name, const std::vector<Region*>& regions,
                                                          bool enforceRestrictions);
+    /// @}
 
     /// The boundary that takes every outward face use which no other boundary of this interior uses.
     /// It lives as long as the interior and is switched on and off, never destroyed.
+    /// Never null, switched on or off; off at first.
     Boundary* defaultBoundary() const;
+
+    /// Switches the default boundary on or off. Off, it stands for no face use.
     void activateDefaultBoundary(bool active);
+
+    /// Whether it is switched on.
     bool isDefaultBoundaryActive() const;
 
     /// The boundaries in the order of their creation, the default boundary last when it is active.
@@ -82,15 +91,24 @@ public:
 
     /// Where the interior lies; may be null for the default interior.
     const Location* location() const;
+
+    /// True for the interior that `VirtualTopology::defaultInterior` gives.
     bool isDefaultInterior() const;
+
+    /// The working copy that owns the interior; never null.
     VirtualTopology* virtualTopology() const;
+
+    /// How the interior lies now: the answer follows the mask, the topology, the other interiors and its
+    /// boundaries.
     State state() const;
 
     /// Moves the interior and returns how it lies there: never `Incomplete`, because that is a matter of
     /// its boundaries. With `enforceRestrictions`, anything but `Valid` leaves it where it was.
     /// The default interior cannot be moved: the answer is `Inconsistent`.
+    /// @{
     State relocate(const std::string& location, bool enforceRestrictions);
     State relocate(const std::vector<Region*>& regions, bool enforceRestrictions);
+    /// @}
 
     /// Takes regions out of the location; true when that changed it. A part stands for its bodies.
     bool remove(const std::vector<Region*>& regions);

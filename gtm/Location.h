@@ -14,6 +14,8 @@ class Region;
 class Regions {
 public:
     Regions() = default;
+
+    /// Takes the regions as they come.
     explicit Regions(std::vector<Region*> regions) : m_regions(std::move(regions)) {}
 
     /// In the order in which the location names them; not owned.
@@ -28,6 +30,8 @@ private:
 class Primitives {
 public:
     Primitives() = default;
+
+    /// Takes the regions as they come: each once, in the order of the topology.
     explicit Primitives(std::vector<Region*> regions) : m_regions(std::move(regions)) {}
 
     /// Each region once, in the order of the topology; not owned.

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @namespace gtm
 /// The whole location-model interface. The library `physics` is built against these declarations and
 /// leaves their definitions to the location model that the host links.
 ///

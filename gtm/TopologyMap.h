@@ -12,14 +12,13 @@ class FaceUse;
 
 /// The solver zone of a body.
 struct ExternalBody {
-    std::int32_t zoneId = 0;
+    std::int32_t zoneId = 0; ///< the number that the solver's mesh gives the zone
 };
 
-/// The solver zone of a face use. `sideWord` is not zero when the zone's mesh faces look the other
-/// way; the signed number of such a side is minus its zone id.
+/// The solver zone of a face use. The signed number of a side that looks the other way is minus its zone id.
 struct ExternalFaceSide {
-    std::int32_t zoneId = 0;
-    std::int32_t sideWord = 0;
+    std::int32_t zoneId = 0;   ///< the number that the solver's mesh gives the zone
+    std::int32_t sideWord = 0; ///< not zero when the zone's mesh faces look the other way
 };
 
 /// The map from topology to the zones of the solver's mesh. Owned by its `Model`.

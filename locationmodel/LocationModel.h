@@ -16,6 +16,7 @@ class FaceUse;
 class Part;
 } // namespace gtm
 
+/// The location model that comes with the library, and what builds, reads and writes its topologies.
 namespace gtm::bundled {
 
 class ModelTopology;
@@ -26,11 +27,13 @@ class GTM_EXPORT LocationModel final : public Model {
 public:
     ~LocationModel();
 
-    /// All regions of a kind, in the order in which they were added.
+    /// All regions of a kind, in the order in which they were added; the first side of a face before the second.
+    /// @{
     const std::vector<Part*>& parts() const;
     const std::vector<Body*>& bodies() const;
     const std::vector<Face*>& faces() const;
     const std::vector<FaceUse*>& faceUses() const;
+    /// @}
 
     /// The sides of faces that bound `body`, in the order of the topology.
     std::vector<FaceUse*> faceUses(const Body* body) const;
@@ -39,8 +42,10 @@ public:
     Part* part(const Body* body) const;
 
     /// What is known of a body or face, which must be of this model; empty where nobody told.
+    /// @{
     const BodyFacts& facts(const Body* body) const;
     const FaceFacts& facts(const Face* face) const;
+    /// @}
 
     /// Why the last attempt to create or relocate something on any working copy over this model was
     /// refused: whole sentences for people. Empty when it was not refused. For what exists there is

@@ -28,17 +28,19 @@ public:
 /// names one region only.
 class GTM_EXPORT TopologyBuilder {
 public:
-    /// One side of a face: the body that it bounds, the id of the face use, and its solver zones. An
-    /// empty id stands for "FACE@BODY", or "FACE@BODY#2" for the second side within one body.
+    /// One side of a face.
     struct Side {
-        std::string body;
+        std::string body; ///< id of the body that it bounds
+
+        /// Of the face use. Empty stands for "FACE@BODY", or "FACE@BODY#2" for the second side within one body.
         std::string id = {};
-        std::vector<ExternalFaceSide> zones = {};
+        std::vector<ExternalFaceSide> zones = {}; ///< solver zones of the face use, in the order of the map
     };
 
     TopologyBuilder();
     ~TopologyBuilder();
 
+    /// Adds a part without bodies.
     void addPart(const std::string& id);
 
     /// `part` is the id of a part added before, or empty for a body outside every part.
@@ -49,8 +51,10 @@ public:
 
     /// Tells facts about a body or face added before, in place of what was told of it. Refuses numbers that are
     /// not finite, an area or volume below zero, and a colour that is not "#rrggbb" in small letters.
+    /// @{
     void describeBody(const std::string& id, const BodyFacts& facts);
     void describeFace(const std::string& id, const FaceFacts& facts);
+    /// @}
 
     /// The finished model; the builder is empty afterwards. Parts, bodies and faces keep the order in
     /// which they were added. A model without any zone has no solver zone map.

@@ -50,6 +50,7 @@ public:
     void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
+    /// The condition on the boundary; `setBoundaryType` changes it.
     BoundaryType type() const { return m_type; }
 
     /// The type of the shell; `Unset` until one is set. It outlives the shell model.
@@ -57,18 +58,28 @@ public:
 
     /// The model that holds the shell, or null when the boundary carries none.
     Model* shellModel() const;
+
+    /// The volume that owns the boundary; never null.
     Volume* volume() const { return m_volume; }
+
+    /// The model of the volume, or null when it has none.
     Model* volumeModel() const;
+
+    /// The type of the volume.
     VolumeType volumeType() const;
 
     /// The location-model entity on which the boundary lies; never null. Change it only through this object.
     gtm::Boundary* boundary() const { return m_boundary; }
+
+    /// Whether the boundary takes what no other boundary of its volume uses.
     bool isDefaultBoundary() const { return m_isDefault; }
 
-    // What the location-model boundary answers, unchanged and in its order.
+    /// What the location-model boundary answers, unchanged and in its order.
+    /// @{
     const gtm::Location* location() const;
     std::vector<gtm::FaceUse*> faceUses() const;
     std::vector<std::string> unresolvableNames() const;
+    /// @}
 
     /// The face uses shared with another boundary; empty for null and for one of another set-up.
     std::vector<gtm::FaceUse*> overlap(const Boundary* other) const;
@@ -98,13 +109,25 @@ public:
     /// shell settings of all patches. The shell type stays. A model of another set-up is ignored.
     void setShellModel(Model* model);
 
+    /// The interfaces in which a boundary of this type and of such a volume may lie, in ascending order.
     std::vector<InterfaceType> allowedInterfaceTypes() const;
+
+    /// Whether `allowedInterfaceTypes` has the type.
     bool isAllowedInterfaceType(InterfaceType type) const;
+
+    /// The shells that a boundary of this type may carry, in ascending order.
     std::vector<ShellType> allowedShellTypes() const;
+
+    /// Whether `allowedShellTypes` has the type.
     bool isAllowedShellType(ShellType type) const;
 
+    /// Puts a mark on the boundary; one that is there stays.
     void addTag(BoundaryTag tag);
+
+    /// Takes a mark off the boundary, if it is there.
     void removeTag(BoundaryTag tag);
+
+    /// Whether the boundary has the mark.
     bool hasTag(BoundaryTag tag) const;
 
     /// In ascending order of the enumerator.
@@ -125,22 +148,28 @@ public:
     /// The settings of one kind of the patch for an interface (the own patch for null), made at the first
     /// request; null when there is no such patch or no model for that kind. Interface settings of patches
     /// are never made on request.
+    /// @{
     Settings* settings(SettingsType kind, const Interface* interface) const;
     Settings* boundarySettings(const Interface* interface) const;
     Settings* shellSettings(const Interface* interface) const;
     Settings* interfaceSettings(const Interface* interface) const;
+    /// @}
 
-    /// The settings of the part that lies in no interface.
+    /// The settings of the part that lies in no interface: those of the own patch.
+    /// @{
     Settings* nonOverlappingBoundarySettings() const;
     Settings* nonOverlappingShellSettings() const;
+    /// @}
 
     /// The settings of all patches, made where they are missing, each once and by id. A patch without
     /// settings contributes one null at the front, but not among the interface settings. Empty when the
     /// boundary has no model for that kind.
+    /// @{
     std::vector<Settings*> allBoundarySettings() const;
     std::vector<Settings*> allShellSettings() const;
     std::vector<Settings*> allInterfaceSettings() const;
     std::vector<Settings*> allSettings() const;
+    /// @}
 
     /// The solver zones of the face uses: absolute, ascending, each once.
     std::vector<int> zoneIds() const;
@@ -151,8 +180,10 @@ public:
 
     /// Moves the boundary; true exactly when the location model calls the result valid. With
     /// `enforceRestrictions`, a refused relocation changes nothing.
+    /// @{
     bool relocate(const std::string& location, bool enforceRestrictions);
     bool relocate(const std::vector<gtm::Region*>& regions, bool enforceRestrictions);
+    /// @}
 
     /// Takes regions out of the location; what the location model answers is passed on.
     bool remove(const std::vector<gtm::Region*>& regions);

@@ -22,12 +22,19 @@ struct PatchRecord;
 /// takes part in none. Made and ended by its boundary; the settings of a patch end with it.
 class PHYSICS_EXPORT BoundaryPatch final : public Referable {
 public:
+    /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
+
+    /// The boundary of which this is a piece; never null.
     Boundary* boundary() const { return m_boundary; }
 
     /// Null for the piece that lies in no interface.
     Interface* interface() const { return m_interface; }
+
+    /// The volume of the boundary; never null.
     Volume* volume() const;
+
+    /// The type of the volume.
     VolumeType volumeType() const;
 
     /// The boundary's shell type, also when it has no shell model.
@@ -42,10 +49,12 @@ public:
 
     /// The settings of one kind, made at the first request; null when there is no model for the kind, and
     /// for interface settings, which are never made on request.
+    /// @{
     Settings* settings(SettingsType kind) const;
     Settings* boundarySettings() const;
     Settings* shellSettings() const;
     Settings* interfaceSettings() const;
+    /// @}
 
     /// Whether the boundary takes part in any interface: the same answer for all patches of a boundary,
     /// its own patch included.

@@ -47,6 +47,7 @@ public:
     void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
+    /// What happens between the two sides.
     InterfaceType type() const { return m_type; }
 
     /// Stored without a check; validation reports boundaries that the type does not allow.
@@ -54,13 +55,18 @@ public:
 
     /// The model that the interface belongs to, or null after that model was destroyed.
     Model* model() const;
+
+    /// The set-up to which the interface belongs, also once ended; never null.
     Physics* physics() const { return m_physics; }
 
     /// The location-model entity on which the interface lies; null once ended. Change it only through
     /// this object.
     gtm::Interface* interface() const { return m_interface; }
 
+    /// The boundary on a side; null once the interface has ended.
     Boundary* boundary(Side side) const;
+
+    /// The volume of that boundary; null once the interface has ended.
     Volume* volume(Side side) const;
 
     /// The second boundary for the first, the first for the second, else null.
@@ -69,49 +75,68 @@ public:
     /// The settings of the interface, made at the first request; null without a model.
     Settings* settings() const;
 
-    // The settings of a side, made at the first request; see the members of `Boundary` and `Volume`.
+    /// The settings of a side, made at the first request: those of the boundary's patch for this interface,
+    /// and those of the volume. Null without a model for them, and once the interface has ended.
+    /// @{
     Settings* boundarySettings(Side side) const;
     Settings* boundaryShellSettings(Side side) const;
     Settings* boundaryInterfaceSettings(Side side) const;
     Settings* volumeSettings(Side side) const;
+    /// @}
 
     /// Always false.
     bool requiresBoundaryInterfaceSettings() const { return false; }
 
+    /// The types that a boundary on either side may have when its volume is of such a type, in ascending order.
     std::vector<BoundaryType> allowedBoundaryTypes(VolumeType volumeType) const;
+
+    /// Whether `allowedBoundaryTypes` has the type.
     bool isAllowedBoundaryType(VolumeType volumeType, BoundaryType boundaryType) const;
 
-    /// How the meshes of the two sides are to be joined: the caller's choice, stored as given.
+    /// How the meshes of the two sides are to be joined: the caller's choice, stored as given; `Automatic` at
+    /// first.
+    /// @{
     MeshConnectivity meshConnectivity() const { return m_meshConnectivity; }
     void setMeshConnectivity(MeshConnectivity value) { m_meshConnectivity = value; }
+    /// @}
 
-    // Three marks for the host, false at first. `relocate` takes the last one back.
+    /// Three marks for the host, false at first. `relocate` takes the last one back.
+    /// @{
     bool isMapped() const { return m_isMapped; }
     bool isStatic() const { return m_isStatic; }
     bool isMeshValid() const { return m_isMeshValid; }
     void setIsMapped(bool value) { m_isMapped = value; }
     void setIsStatic(bool value) { m_isStatic = value; }
     void setIsMeshValid(bool value) { m_isMeshValid = value; }
+    /// @}
 
+    /// Whether and how the interface repeats the flow; `NonPeriodic` at first.
     Periodicity periodicity() const { return m_periodicity; }
+
+    /// True for anything but `NonPeriodic`.
     bool isPeriodic() const { return m_periodicity != Periodicity::NonPeriodic; }
 
     /// Makes the interface periodic in one way; the values of the other way are kept. Values are stored as
     /// given: lengths and angle in the host's units, no range check, the direction not normalised.
+    /// @{
     void setTranslationalPeriodicity(const std::array<double, 3>& offset);
     void setRotationalPeriodicity(double angle, const std::array<double, 3>& origin,
                                   const std::array<double, 3>& direction);
+    /// @}
 
     /// Makes the interface plain; all values are kept.
     void setNonPeriodic() { m_periodicity = Periodicity::NonPeriodic; }
 
-    /// (1, 0, 0) at first.
+    /// The offset that was given last, in the host's length unit; (1, 0, 0) at first.
     std::array<double, 3> getPeriodicOffset() const { return m_offset; }
-    /// 0 at first.
+
+    /// The angle that was given last, in the host's unit; 0 at first.
     double getPeriodicAngle() const { return m_angle; }
-    /// (0, 0, 0) at first.
+
+    /// A point of the axis of rotation, as given last, in the host's length unit; (0, 0, 0) at first.
     std::array<double, 3> getPeriodicOrigin() const { return m_origin; }
-    /// (1, 0, 0) at first.
+
+    /// The direction of the axis of rotation, as given last; (1, 0, 0) at first.
     std::array<double, 3> getPeriodicDirection() const { return m_direction; }
 
     /// How far the two sides share faces. `Total` when every face use of the second side has its partner

@@ -40,6 +40,7 @@ protected:
     Reference() = default;
     ~Reference() { refer(nullptr); }
 
+    /// What it points at, or null.
     Referable* target() const { return m_target; }
 
     /// Points at another target, or at none.
@@ -113,6 +114,7 @@ bool precedes(const T* left, const T* right)
     return left->m_serial < right->m_serial;
 }
 
+/// Sorted as `precedes` has it.
 template <class T>
 void sortById(std::vector<T*>& objects)
 {
@@ -147,15 +149,24 @@ template <class T>
 class Link final : private Reference {
 public:
     Link() = default;
+
+    /// Points at an object, or at none (null).
     explicit Link(T* target) { refer(target); }
+
+    /// Points at another object, or at none (null).
     Link& operator=(T* target)
     {
         refer(target);
         return *this;
     }
 
+    /// The object, or null when there is none or it has ended.
     T* get() const { return static_cast<T*>(target()); }
+
+    /// The object, for a member of it; there must be one.
     T* operator->() const { return get(); }
+
+    /// Whether `get` is not null.
     explicit operator bool() const { return target() != nullptr; }
 };
 
@@ -164,7 +175,7 @@ public:
 template <class Map, class T>
 class BasicIndex : private NonCopyable {
 public:
-    using Key = typename Map::key_type;
+    using Key = typename Map::key_type; ///< under which objects are found
 
     /// The pool gives the memory of the entries and outlives the index.
     explicit BasicIndex(NodePool& pool) : m_entries(NodeAllocator<char>(pool)) {}
@@ -176,8 +187,13 @@ public:
         return entry == m_entries.end() ? nullptr : entry->second.object();
     }
 
+    /// Whether there is an object under the key.
     bool contains(const Key& key) const { return m_entries.find(key) != m_entries.end(); }
+
+    /// The number of keys; one object may stand under several.
     std::size_t size() const { return m_entries.size(); }
+
+    /// Whether there is no key.
     bool isEmpty() const { return m_entries.empty(); }
 
     /// Puts the object under the key; whatever was there before is no longer found under it.
@@ -190,6 +206,7 @@ public:
     /// Forgets the key, whichever object it names.
     void erase(const Key& key) { m_entries.erase(key); }
 
+    /// Forgets every key; no object ends.
     void clear() { m_entries.clear(); }
 
     /// The objects in the order of the map.
@@ -240,7 +257,9 @@ private:
 /// Selects an ordered map, for keys whose order is the order of a list.
 template <class K>
 struct Ordered {
-    using key_type = K;
+    using key_type = K; ///< of the map
+
+    /// The map for entries of one kind.
     template <class Entry>
     using With = std::map<K, Entry, std::less<K>, NodeAllocator<std::pair<const K, Entry>>>;
 };
@@ -248,11 +267,14 @@ struct Ordered {
 /// Selects a hashed map, for keys that are pointers: their order means nothing.
 template <class K>
 struct Hashed {
-    using key_type = K;
+    using key_type = K; ///< of the map
+
+    /// The map for entries of one kind.
     template <class Entry>
     using With = std::unordered_map<K, Entry, std::hash<K>, std::equal_to<K>, NodeAllocator<std::pair<const K, Entry>>>;
 };
 
+/// An index whose objects are listed in the order of the keys.
 template <class Key, class T>
 using Index = BasicIndex<Ordered<Key>, T>;
 
@@ -292,6 +314,7 @@ public:
     using PointerIndex<T, T>::objects; // in no particular order
     using PointerIndex<T, T>::size;
 
+    /// Adds an object; one that is a member stays so.
     void insert(T* object) { this->put(object, object); }
 
     /// The member at this address, or null. The address is not dereferenced.

@@ -27,7 +27,10 @@ struct ModelRecord;
 /// members that outlive it have no model, and their settings stay findable by id, thread and zone.
 class PHYSICS_EXPORT Model final : public Referable {
 public:
+    /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
+
+    /// The set-up to which the model belongs; never null.
     Physics* physics() const { return m_physics; }
 
     /// Adds a domain or replaces the one with the same id. Nothing is checked. A new model has the domain
@@ -37,9 +40,11 @@ public:
     /// False when there is no such domain. Thread bundles go on listing the id.
     bool removeDomain(int id);
 
-    /// Ascending.
+    /// The ids of all domains, or of those of one type, ascending.
+    /// @{
     std::vector<int> domainIds() const;
     std::vector<int> domainIdsOfType(DomainType type) const;
+    /// @}
 
     /// Empty for an unknown id.
     std::string domainName(int id) const;
@@ -50,11 +55,13 @@ public:
     /// `Unset` for an unknown id.
     DomainType domainType(int id) const;
 
-    // The settings of a member, made at the first request; null for what is not a member of this model,
-    // which may have ended.
+    /// The settings of a member, made at the first request; null for what is not a member of this model,
+    /// which may have ended.
+    /// @{
     Settings* settings(const Volume* volume);
     Settings* internalSettings(const Volume* volume);
     Settings* settings(const Interface* interface);
+    /// @}
 
     /// The settings of one kind that this model keeps for a patch, made at the first request, whether or
     /// not the patch belongs here. Null for interface settings, which are never made on request; for shell
@@ -62,9 +69,11 @@ public:
     /// value outside the enumeration makes a new object at each call, found by its id only.
     Settings* settings(const BoundaryPatch* patch, SettingsType kind);
 
-    // Members by id; none of these makes settings.
+    /// The members of a kind, by id. As with all lists here, no settings are made.
+    /// @{
     std::vector<Volume*> volumes() const;
     std::vector<Interface*> interfaces() const;
+    /// @}
 
     /// The boundaries of the volumes, those whose shell is here, and both sides of the interfaces: each
     /// once, by id.
@@ -73,17 +82,21 @@ public:
     /// The patches of `boundaries()`, by id.
     std::vector<BoundaryPatch*> boundaryPatches() const;
 
-    // The settings made so far, by the id of the object that they belong to.
+    /// The settings made so far, by the id of the object that they belong to.
+    /// @{
     std::vector<Settings*> volumeSettings() const;
     std::vector<Settings*> internalSettings() const;
     std::vector<Settings*> interfaceSettings() const;
+    /// @}
 
     /// Volume side, then shell side, then interface side; each by the id of the patch.
     std::vector<Settings*> boundaryPatchSettings() const;
 
     /// Those of one boundary, in the order of its patches; empty for null.
+    /// @{
     std::vector<Settings*> volumeSettings(const Boundary* boundary) const;
     std::vector<Settings*> shellSettings(const Boundary* boundary) const;
+    /// @}
 
     /// All settings held here, by their ids.
     std::vector<Settings*> settings() const;

@@ -24,6 +24,7 @@ namespace physics {
 /// its own, so that the sanitizer sees what becomes of it.
 class NodePool : private NonCopyable {
 public:
+    /// Memory for one node of that many bytes, aligned for any type; not null.
     void* allocate(std::size_t bytes)
     {
         if (!isPooled(bytes))
@@ -41,6 +42,7 @@ public:
         return node;
     }
 
+    /// Takes back what `allocate` gave for the same number of bytes.
     void deallocate(void* node, std::size_t bytes)
     {
         if (!isPooled(bytes)) {
@@ -107,22 +109,33 @@ private:
 template <class T>
 class NodeAllocator {
 public:
-    using value_type = T;
+    using value_type = T; ///< as the containers of the standard library want it
 
+    /// Takes from this pool.
     explicit NodeAllocator(NodePool& pool) : m_pool(&pool) {}
+
+    /// Takes from the same pool as an allocator of other nodes.
     template <class U>
     NodeAllocator(const NodeAllocator<U>& other) : m_pool(other.pool())
     {}
 
+    /// Memory for that many objects in a row; none is constructed.
     T* allocate(std::size_t count) { return static_cast<T*>(m_pool->allocate(count * sizeof(T))); }
+
+    /// Takes back what `allocate` gave for the same number.
     void deallocate(T* nodes, std::size_t count) { m_pool->deallocate(nodes, count * sizeof(T)); }
+
+    /// The pool from which it takes; never null.
     NodePool* pool() const { return m_pool; }
 
+    /// Equal when one can take back what the other gave: when they have the same pool.
+    /// @{
     friend bool operator==(const NodeAllocator& left, const NodeAllocator& right)
     {
         return left.m_pool == right.m_pool;
     }
     friend bool operator!=(const NodeAllocator& left, const NodeAllocator& right) { return !(left == right); }
+    /// @}
 
 private:
     NodePool* m_pool;

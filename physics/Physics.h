@@ -51,14 +51,17 @@ public:
     /// Ends every object, and the interiors, boundaries and interfaces under them.
     ~Physics();
 
+    /// The location model that the set-up was built over, as it was given.
     const gtm::Model* locationModel() const { return m_locationModel; }
 
     /// The working copy of the topology in which the set-up lies. Change it only through the set-up.
     const gtm::VirtualTopology& virtualTopology() const { return m_virtualTopology; }
 
     /// Whether later creations are to be refused unless they are valid; it does not change the type tables.
+    /// @{
     bool enforceRestrictions() const { return m_enforceRestrictions; }
     void setEnforceRestrictions(bool value) { m_enforceRestrictions = value; }
+    /// @}
 
     /// Ends every object but ended interfaces, which stay readable, drops the activation groups and unmasks
     /// the bodies of every part. Flags, type tables and the id counters stay: ids go on. All pointers to
@@ -75,9 +78,11 @@ public:
     Model* primaryModel();
 
     /// Makes a volume at a location. A braced empty list is ambiguous: spell its type.
+    /// @{
     Volume* createVolume(const std::string& name, const std::string& location, VolumeType type, Model* model = nullptr);
     Volume* createVolume(const std::string& name, const std::vector<gtm::Region*>& regions, VolumeType type,
                          Model* model = nullptr);
+    /// @}
 
     /// Makes a volume of every body that no other volume uses. Each call makes another volume on the one
     /// default interior; `defaultVolume` is the last of them. Null only if the location model has none.
@@ -86,6 +91,10 @@ public:
     /// Joins two boundaries of this set-up.
     Interface* createInterface(const std::string& name, Boundary* first, Boundary* second, InterfaceType type,
                                Model* model = nullptr);
+
+    /// Joins two boundaries of this set-up that repeat the flow: as `createInterface`, and then
+    /// `Interface::setTranslationalPeriodicity` or `Interface::setRotationalPeriodicity`.
+    /// @{
     Interface* createTranslationallyPeriodicInterface(const std::string& name, Boundary* first, Boundary* second,
                                                       const std::array<double, 3>& offset, InterfaceType type,
                                                       Model* model = nullptr);
@@ -93,33 +102,45 @@ public:
                                                    double angle, const std::array<double, 3>& origin,
                                                    const std::array<double, 3>& direction, InterfaceType type,
                                                    Model* model = nullptr);
+    /// @}
 
     // ---- Look-ups; null when there is no such object.
 
     /// The last default volume that was made, or null.
     Volume* defaultVolume() const;
+
+    /// Whether there is a default volume.
     bool hasDefaultVolume() const { return defaultVolume() != nullptr; }
 
+    /// The object of one kind with this id, or null; each kind counts for itself.
+    /// @{
     Volume* findVolumeById(int id) const;
     Boundary* findBoundaryById(int id) const;
     Interface* findInterfaceById(int id) const;
     Model* findModelById(int id) const;
     Settings* findSettingsById(int id) const;
+    /// @}
 
     /// By the thread id with which the bundle was made; of several, the last. Null for a negative id.
+    /// @{
     ThreadBundle* findThreadBundleByThreadId(int id) const;
     Settings* findSettingsByThreadId(int id) const;
+    /// @}
 
     /// By a zone that the bundle took, or inherited when it was made; of several, the last. The sign counts.
+    /// @{
     ThreadBundle* findThreadBundleByZoneId(int id) const;
     Settings* findSettingsByZoneId(int id) const;
+    /// @}
 
     // ---- Lists.
 
     /// Volumes and interfaces in ascending byte order of their names at creation. Of two with equal names
     /// the newer is listed; the other lives on and is found by its id.
+    /// @{
     std::vector<Volume*> volumes() const;
     std::vector<Interface*> interfaces() const;
+    /// @}
 
     /// By id.
     std::vector<Model*> models() const;
@@ -128,8 +149,10 @@ public:
     std::vector<Boundary*> boundaries() const;
 
     /// Model by model, each by id; and their bundles, by index.
+    /// @{
     std::vector<Settings*> settings() const;
     std::vector<ThreadBundle*> threadBundles() const;
+    /// @}
 
     /// The thread ids of those bundles, ascending, each once.
     std::vector<int> threadIds() const;
@@ -158,19 +181,29 @@ public:
     /// In the order in which they were given, without those that ended; empty when there is no such group.
     std::vector<Volume*> activationGroupVolumes(int group) const;
 
-    // ---- The mask: bodies that the location model treats as absent. A part counts as masked when it has
-    // ---- bodies and all are masked. Lists come in the order of the location model.
+    // ---- The mask: bodies that the location model treats as absent.
 
+    /// Adds to the mask, takes out of it, or replaces the whole mask. A part stands for its bodies.
+    /// @{
     void maskBodies(const std::vector<gtm::Body*>& bodies);
     void unmaskBodies(const std::vector<gtm::Body*>& bodies);
     void setMaskedBodies(const std::vector<gtm::Body*>& bodies);
     void maskParts(const std::vector<gtm::Part*>& parts);
     void unmaskParts(const std::vector<gtm::Part*>& parts);
     void setMaskedParts(const std::vector<gtm::Part*>& parts);
+    /// @}
+
+    /// Whether the location model treats it as absent. A part counts as masked when it has bodies and all are
+    /// masked. False for null.
+    /// @{
     bool isMasked(gtm::Body* body) const;
     bool isMasked(gtm::Face* face) const;
     bool isMasked(gtm::FaceUse* faceUse) const;
     bool isMasked(gtm::Part* part) const;
+    /// @}
+
+    /// All of the geometry that are masked or are not, in the order of the location model.
+    /// @{
     std::vector<gtm::Body*> maskedBodies() const;
     std::vector<gtm::Body*> unmaskedBodies() const;
     std::vector<gtm::Face*> maskedFaces() const;
@@ -179,6 +212,7 @@ public:
     std::vector<gtm::FaceUse*> unmaskedFaceUses() const;
     std::vector<gtm::Part*> maskedParts() const;
     std::vector<gtm::Part*> unmaskedParts() const;
+    /// @}
 
     /// The unmasked bodies that no volume uses.
     std::vector<gtm::Body*> unusedBodies() const;
@@ -199,10 +233,10 @@ public:
     /// with its own lines and by one line of its volume and of each of its interfaces.
     std::vector<std::string> validate(bool detailed, bool ignoreWarnings) const;
 
-    /// What the rules say against one object, or against the set-up as a whole when `region` is null.
+    /// What the rules say against one object.
     struct Complaint {
-        const Region* region;
-        std::vector<std::string> lines;
+        const Region* region;           ///< the object, or null for the set-up as a whole
+        std::vector<std::string> lines; ///< as `validate` says them; never empty
     };
 
     /// What a detailed `validate` says, object by object in the same order, without the empty lines between.
@@ -247,8 +281,10 @@ public:
     /// The solver's number for a thread type; -1 for `Unset` and unknown types.
     int threadTypeToSolverThreadType(ThreadType type) const;
 
-    // ---- Which types may be used where: what the members of the same names of `TypeManager` answer.
+    // ---- Which types may be used where.
 
+    /// What the member of the same name of `TypeManager` answers.
+    /// @{
     std::vector<VolumeType> allowedVolumeTypes();
     std::vector<InterfaceType> allowedInterfaceTypes();
     std::vector<ShellType> allowedShellTypes();
@@ -273,6 +309,7 @@ public:
     bool isAllowedShellType(BoundaryType boundaryType, ShellType shellType) const;
     bool isInternalBoundaryType(BoundaryType boundaryType) const;
     bool isSharedInterfaceType(InterfaceType interfaceType) const;
+    /// @}
 
 private:
     friend class Boundary;
@@ -315,6 +352,8 @@ private:
     std::unique_ptr<Registry> m_registry;
 };
 
+/// The names of one enumeration.
+/// @{
 template <>
 PHYSICS_EXPORT std::string Physics::typeToName(BoundaryTag value) const;
 template <>
@@ -358,5 +397,6 @@ template <>
 PHYSICS_EXPORT std::string Physics::typeToSchemeName(ThreadType value) const;
 template <>
 PHYSICS_EXPORT std::string Physics::typeToSchemeName(VolumeType value) const;
+/// @}
 
 } // namespace physics

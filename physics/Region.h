@@ -26,6 +26,7 @@ public:
     /// The validity that the location model reports at this moment.
     virtual State state() const = 0;
 
+    /// Which of the three kinds of object it is.
     virtual TopologyType topologyType() const = 0;
 
     /// Whether the object takes part in the set-up: no volume that it depends on is deactivated.

@@ -32,8 +32,13 @@ struct SettingsRecord;
 /// found by id and thread until `Physics::clear`. It owns its thread bundles.
 class PHYSICS_EXPORT Settings final : public Referable {
 public:
+    /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
+
+    /// The kind of settings.
     SettingsType type() const { return m_type; }
+
+    /// The kind of object that they belong to; those of a patch belong to a boundary.
     TopologyType topologyType() const { return m_topologyType; }
 
     /// The model that holds the settings, or null after it was destroyed.
@@ -68,6 +73,8 @@ public:
 
     /// The bundle at an index, or null.
     ThreadBundle* threadBundle(int index) const;
+
+    /// The bundle at index 0, or null.
     ThreadBundle* primaryThreadBundle() const { return threadBundle(0); }
 
     /// The bundle at the lowest index that has this thread id now, or null.
@@ -79,12 +86,14 @@ public:
     /// One for each bundle, by index, repeats kept.
     std::vector<int> threadIds() const;
 
-    // Of the bundle at an index; -1, `ThreadType::Unset` (0), -1, empty and null when there is none.
+    /// What the bundle at an index answers; -1, `ThreadType::Unset` (0), -1, empty and null when there is none.
+    /// @{
     int threadId(int index) const;
     ThreadType threadType(int index) const;
     int solverThreadType(int index) const;
     std::vector<int> domainIds(int index) const;
     void* thread(int index, int slot) const;
+    /// @}
 
     /// The handles of all bundles, by index and slot.
     std::vector<void*> threads() const;

@@ -23,32 +23,42 @@ struct BundleRecord;
 class PHYSICS_EXPORT ThreadBundle final : public Referable {
 public:
     /// The solver thread id: bundles have no id of their own.
+    /// @{
     int id() const { return m_threadId; }
     int threadId() const { return m_threadId; }
+    /// @}
 
     /// Stores another thread id. `Physics::findThreadBundleByThreadId` goes on finding the bundle under
     /// the id with which it was created.
     void setThreadId(int threadId);
 
+    /// The settings object that owns the bundle; never null.
     Settings* settings() const { return m_settings; }
 
     /// Where the settings object lists the bundle.
     int index() const { return m_index; }
+
+    /// Whether the index is 0.
     bool isPrimary() const { return m_index == 0; }
 
+    /// The kind of the solver thread: any value, stored as given.
+    /// @{
     ThreadType threadType() const { return m_threadType; }
     void setThreadType(ThreadType type) { m_threadType = type; }
+    /// @}
 
     /// The solver's number for the thread type; -1 for `Unset` and unknown types.
     int solverThreadType() const;
 
-    // The domains by id; whether the model has them is not checked. Adding a present id and removing an
-    // absent one answer false.
+    /// Changes the domains of the thread, by id; whether the model has them is not checked. Adding a present id
+    /// and removing an absent one answer false.
+    /// @{
     bool addDomainId(int id);
     bool removeDomainId(int id);
     void setDomainIds(const std::vector<int>& ids);
+    /// @}
 
-    /// Ascending, each once.
+    /// The ids of the domains: ascending, each once.
     std::vector<int> domainIds() const;
 
     /// Replaces the bundle's own zones; none means that it inherits them again. False, changing nothing,
@@ -59,15 +69,19 @@ public:
     /// The own zones, ascending; without any, those of the location model where the object is whole: of the
     /// volume, of its unused internal faces, or of an undivided boundary. Else empty.
     std::vector<int> zoneIds() const;
+
+    /// Whether `zoneIds` lists zones that the bundle was given, not those that it inherits.
     bool hasOwnZones() const { return !m_zoneIds.empty(); }
 
-    // Handles of the host's solver threads by slot; stored, returned, never dereferenced or freed. A null
-    // handle empties its slot; an empty slot answers null.
+    /// Handles of the host's solver threads by slot; stored, returned, never dereferenced or freed. A null
+    /// handle empties its slot; an empty slot answers null.
+    /// @{
     void registerThread(int slot, void* handle);
     void* thread(int slot) const;
     void clearThreads();
+    /// @}
 
-    /// By slot.
+    /// The handles, by slot.
     std::vector<void*> threads() const;
 
     /// The bundles with the same index on either side of this one; null for what there is not.

@@ -22,19 +22,23 @@ class TextWriter;
 /// list members are nevertheless not `const`, as hosts have come to know them.
 class PHYSICS_EXPORT TypeManager {
 public:
+    /// Fills the tables.
     TypeManager();
 
+    /// The types of one kind that an object may have.
+    /// @{
     std::vector<VolumeType> allowedVolumeTypes();
     std::vector<InterfaceType> allowedInterfaceTypes();
     std::vector<ShellType> allowedShellTypes();
-
-    /// Those that a thread bundle may be asked for; fewer than the thread types that have names.
-    std::vector<ThreadType> allowedThreadTypes();
     std::vector<DomainType> allowedDomainTypes();
     std::vector<BoundaryTag> allowedBoundaryTags();
     std::vector<Periodicity> allowedPeriodicities();
     std::vector<Connectivity> allowedConnectivities();
     std::vector<MeshConnectivity> allowedMeshConnectivities();
+
+    /// Those that a thread bundle may be asked for; fewer than the thread types that have names.
+    std::vector<ThreadType> allowedThreadTypes();
+    /// @}
 
     /// Every boundary type that some volume or some interface allows.
     std::vector<BoundaryType> allowedBoundaryTypes();
@@ -54,21 +58,28 @@ public:
     /// The shells that such a boundary may carry.
     std::vector<ShellType> allowedShellTypes(BoundaryType boundaryType);
 
-    /// The allowed boundary types that lie between two volumes, and those that do not.
+    /// The allowed boundary types that lie between two volumes.
     std::vector<BoundaryType> allowedInternalBoundaryTypes();
+
+    /// The allowed boundary types that do not.
     std::vector<BoundaryType> allowedExternalBoundaryTypes();
 
     /// The type of a boundary of such a volume unless another is asked for; `Unset` when there is none.
     BoundaryType defaultBoundaryType(VolumeType volumeType);
 
+    /// Whether the list for the first types has the last one.
+    /// @{
     bool isAllowedBoundaryType(VolumeType volumeType, BoundaryType boundaryType) const;
     bool isAllowedBoundaryType(InterfaceType interfaceType, VolumeType volumeType, BoundaryType boundaryType) const;
     bool isAllowedInterfaceType(BoundaryType boundaryType, VolumeType volumeType, InterfaceType interfaceType) const;
     bool isAllowedShellType(BoundaryType boundaryType, ShellType shellType) const;
+    /// @}
 
     /// Fixed rules that hold whatever tables were read back: the types that need fluid on both sides.
+    /// @{
     bool isInternalBoundaryType(BoundaryType boundaryType) const;
     bool isSharedInterfaceType(InterfaceType interfaceType) const;
+    /// @}
 
     /// Lists the tables for people: every type, then the boundary types that each volume type (its default
     /// type has a star), each interface type and each shell type allows.

@@ -2,45 +2,46 @@
 
 #include <cstdint>
 
+/// The physics set-up of a case: `Physics` makes and owns all of it.
 namespace physics {
 
-// The numbers are written into saved texts: they never change. A value outside its enumeration is
-// legal everywhere and answers with an empty name, an empty list, false or `Unset`.
+// The numbers of all enumerations are written into saved texts: they never change. A value outside its
+// enumeration is legal everywhere and answers with an empty name, an empty list, false or `Unset`.
 
 /// What fills a volume.
 enum class VolumeType : std::int32_t {
-    Unset = -1,
-    Solid = 0,
-    Fluid = 1,
-    Porous = 2,
+    Unset = -1, ///< not chosen yet
+    Solid = 0,  ///< material in which nothing flows
+    Fluid = 1,  ///< material that flows
+    Porous = 2, ///< material through whose pores a fluid flows
 };
 
-/// The physical condition on a boundary.
+/// The physical condition on a boundary: what the flow does there.
 enum class BoundaryType : std::int32_t {
-    Unset = -1,
-    VelocityInlet = 0,
-    MassFlowInlet = 1,
-    MassFlowOutlet = 2,
-    PressureInlet = 3,
-    PressureOutlet = 4,
-    PressureFarField = 5,
-    Outflow = 6,
-    Wall = 7,
-    Axis = 8,
-    ExhaustFan = 9,
-    Fan = 10,
-    InletVent = 11,
-    OutletVent = 12,
-    IntakeFan = 13,
-    Interior = 14,
-    PorousJump = 15,
-    Radiator = 16,
-    Symmetry = 17,
+    Unset = -1,           ///< not chosen yet; in a creation, the default type of the volume
+    VelocityInlet = 0,    ///< enters with a given velocity
+    MassFlowInlet = 1,    ///< enters with a given mass flow
+    MassFlowOutlet = 2,   ///< leaves with a given mass flow
+    PressureInlet = 3,    ///< enters at a given total pressure
+    PressureOutlet = 4,   ///< leaves at a given static pressure
+    PressureFarField = 5, ///< free stream, undisturbed at infinity
+    Outflow = 6,          ///< leaves fully developed, with nothing given
+    Wall = 7,             ///< nothing passes
+    Axis = 8,             ///< centre line of a geometry with rotational symmetry
+    ExhaustFan = 9,       ///< leaves through a fan
+    Fan = 10,             ///< is driven across a thin surface inside
+    InletVent = 11,       ///< enters from the surroundings with a loss
+    OutletVent = 12,      ///< leaves to the surroundings with a loss
+    IntakeFan = 13,       ///< enters through a fan
+    Interior = 14,        ///< passes freely
+    PorousJump = 15,      ///< passes a thin porous layer with a loss
+    Radiator = 16,        ///< passes a thin heat exchanger
+    Symmetry = 17,        ///< mirror plane
 };
 
-/// What happens between the two sides of an interface.
+/// What happens between the two sides of an interface: what the boundary type of the same name says.
 enum class InterfaceType : std::int32_t {
-    Unset = -1,
+    Unset = -1, ///< not chosen yet
     Fan = 0,
     Interior = 1,
     PorousJump = 2,
@@ -50,24 +51,25 @@ enum class InterfaceType : std::int32_t {
 
 /// The thin-wall model on a boundary.
 enum class ShellType : std::int32_t {
-    Unset = -1,
-    HeatConduction = 0,
+    Unset = -1,         ///< not chosen yet
+    HeatConduction = 0, ///< heat is conducted within the thin wall
 };
 
 /// The kind of a domain of a physics model.
 enum class DomainType : std::int32_t {
-    Unset = -1,
-    Geometry = 0,
-    Phase = 1,
-    Interaction = 2,
+    Unset = -1,      ///< not chosen yet
+    Geometry = 0,    ///< the one that a model has at first
+    Phase = 1,       ///< one of several materials that share the space
+    Interaction = 2, ///< what two phases do to each other
 };
 
 /// A mark on a boundary; it has no `Unset`.
 enum class BoundaryTag : std::int32_t {
-    Interface = 0,
+    Interface = 0, ///< meant to lie in an interface
 };
 
-/// The kind of a solver thread (a cell or face zone). Unlike in the other enumerations `Unset` is 0.
+/// The kind of a solver thread (a cell or face zone); most are called as the volume or boundary type that they
+/// realise. Unlike in the other enumerations `Unset` is 0.
 enum class ThreadType : std::int32_t {
     Unset = 0,
     Solid = 1,
@@ -104,37 +106,37 @@ enum class ThreadType : std::int32_t {
 
 /// How far the face uses of an interface's two sides match; it has no `Unset`.
 enum class Connectivity : std::int32_t {
-    None = 0,
-    Partial = 1,
-    Total = 2,
+    None = 0,    ///< no face use has its partner on the other side
+    Partial = 1, ///< some have
+    Total = 2,   ///< all have, or both sides are empty
 };
 
 /// How the meshes of an interface's two sides are to be joined; it has no `Unset`.
 enum class MeshConnectivity : std::int32_t {
-    Automatic = 0,
-    NonConformal = 1,
+    Automatic = 0,    ///< as the mesher or solver sees fit
+    NonConformal = 1, ///< without common nodes
 };
 
 /// Whether and how an interface repeats the flow; it has no `Unset`.
 enum class Periodicity : std::int32_t {
-    NonPeriodic = 0,
-    TranslationallyPeriodic = 1,
-    RotationallyPeriodic = 2,
+    NonPeriodic = 0,             ///< not at all: the two sides touch
+    TranslationallyPeriodic = 1, ///< the second side is the first one moved by an offset
+    RotationallyPeriodic = 2,    ///< the second side is the first one turned about an axis
 };
 
 /// The kind of a settings object; it has no `Unset`.
 enum class SettingsType : std::int32_t {
-    VolumeSettings = 0,
-    ShellSettings = 1,
-    InterfaceSettings = 2,
+    VolumeSettings = 0,    ///< of a volume, its internal faces, or the volume side of a boundary patch
+    ShellSettings = 1,     ///< of the shell on a boundary patch
+    InterfaceSettings = 2, ///< of an interface, or the interface side of a boundary patch
 };
 
 /// The kind of object that a region is, or that a settings object belongs to; it has no `Unset`.
 enum class TopologyType : std::int32_t {
-    Volume = 0,
-    Boundary = 1,
-    Interface = 2,
-    Internal = 3,
+    Volume = 0,    ///< a volume
+    Boundary = 1,  ///< a boundary, or a patch of it
+    Interface = 2, ///< an interface
+    Internal = 3,  ///< the internal faces of a volume; no region is of this kind, only settings are
 };
 
 /// One of the two sides of an interface. Any value but 0 counts as the second side.
@@ -146,16 +148,16 @@ enum class Side : std::int32_t {
 /// The validity of a region as its location model sees it. The numbering is that of the location
 /// model's own states; it has gaps.
 enum class State : std::int32_t {
-    Valid = 0,
-    Empty = 1,
-    Unresolvable = 2,
-    Incomplete = 10,
-    Inconsistent = 11,
-    Overlapping = 12,
-    InterfaceSameBoundary = 20,
-    InterfaceBoundaries = 21,
-    InterfaceVolumes = 22,
-    InterfaceSharedFaces = 23,
+    Valid = 0,                  ///< nothing is wrong
+    Empty = 1,                  ///< it lies on nothing
+    Unresolvable = 2,           ///< its location names what is not there; also an interface that has ended
+    Incomplete = 10,            ///< part of the outside of a volume is in none of its boundaries
+    Inconsistent = 11,          ///< its location names what cannot belong to it
+    Overlapping = 12,           ///< another one has part of what it lies on
+    InterfaceSameBoundary = 20, ///< a boundary is on both sides of the interface
+    InterfaceBoundaries = 21,   ///< a boundary is not valid itself, or the two share a face use
+    InterfaceVolumes = 22,      ///< the boundaries of one side are of different volumes
+    InterfaceSharedFaces = 23,  ///< both sides of a face are on the same side of the interface
 };
 
 } // namespace physics

@@ -49,10 +49,13 @@ public:
     void dump(std::ostream& stream, bool closes) const override;
     std::string rename(const std::string& name) override;
 
+    /// What fills the volume; `setType` changes it.
     VolumeType type() const { return m_type; }
 
     /// The model that the volume belongs to, or null after that model was destroyed.
     Model* model() const;
+
+    /// The set-up to which the volume belongs; never null.
     Physics* physics() const { return m_physics; }
 
     /// The number of the group that deactivated the volume, or -1 while it is active.
@@ -63,18 +66,22 @@ public:
 
     /// The default boundary, or null.
     Boundary* defaultBoundary() const;
+
+    /// Whether there is a default boundary.
     bool hasDefaultBoundary() const { return defaultBoundary() != nullptr; }
 
     /// The location-model entity on which the volume lies; never null. Change it only through the volume.
     gtm::Interior* interior() const { return m_interior; }
 
-    // What the interior answers, unchanged and in its order.
+    /// What the interior answers, unchanged and in its order.
+    /// @{
     const gtm::Location* location() const;
     std::vector<gtm::Body*> bodies() const;
     std::vector<gtm::Face*> internalFaces() const;
     std::vector<gtm::FaceUse*> unusedFaceUses() const;
     std::vector<gtm::Face*> unusedInternalFaces() const;
     std::vector<std::string> unresolvableNames() const;
+    /// @}
 
     /// The bodies shared with another volume; empty for null and for a volume of another set-up.
     std::vector<gtm::Body*> overlap(const Volume* other) const;
@@ -85,20 +92,29 @@ public:
 
     /// The settings of the volume and of its internal faces, made at the first request; null when the
     /// volume has no model.
+    /// @{
     Settings* settings() const;
     Settings* internalSettings() const;
+    /// @}
 
+    /// The type of a new boundary unless another is asked for; `Unset` when the type of the volume has none.
     BoundaryType defaultBoundaryType() const;
+
+    /// The boundary types that the volume may carry, in ascending order.
     std::vector<BoundaryType> allowedBoundaryTypes() const;
+
+    /// Whether `allowedBoundaryTypes` has the type.
     bool isAllowedBoundaryType(BoundaryType type) const;
 
     /// Creates a boundary on part of the surface. `BoundaryType::Unset` (-1) stands for the default type;
     /// whether the volume allows the type is left to validation. Null when the location model refuses.
     /// A braced empty list is ambiguous: spell its type.
+    /// @{
     Boundary* createBoundary(const std::string& name, const std::string& location,
                              BoundaryType type = BoundaryType::Unset);
     Boundary* createBoundary(const std::string& name, const std::vector<gtm::Region*>& regions,
                              BoundaryType type = BoundaryType::Unset);
+    /// @}
 
     /// Creates the boundary that takes what no other boundary uses. An existing default boundary is
     /// destroyed first, with every interface that it is in. Null only if the location model has none.
@@ -110,8 +126,10 @@ public:
 
     /// Moves the volume; true exactly when the location model calls the result valid. With
     /// `enforceRestrictions`, a refused relocation changes nothing.
+    /// @{
     bool relocate(const std::string& location, bool enforceRestrictions);
     bool relocate(const std::vector<gtm::Region*>& regions, bool enforceRestrictions);
+    /// @}
 
     /// Takes regions out of the location; what the location model answers is passed on.
     bool remove(const std::vector<gtm::Region*>& regions);

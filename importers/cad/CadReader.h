@@ -35,8 +35,8 @@ struct CadOptions {
 
 /// A face in triangles, for pictures.
 struct CadTriangles {
-    std::string face; ///< its id
-    std::vector<std::array<double, 3>> points;
+    std::string face;                          ///< its id
+    std::vector<std::array<double, 3>> points; ///< in the length unit of the model
 
     /// Places in `points`. Seen against the normal, which points out of the first side, they run
     /// counter-clockwise.

@@ -48,11 +48,15 @@ struct CgnsCondition {
 /// Two faces that the file declares periodic. The first maps onto the second by a rotation about
 /// `rotationCentre`, and then by a translation.
 struct CgnsPeriodic {
-    enum class Kind { Translation, Rotation };
+    /// How the first face maps onto the second.
+    enum class Kind {
+        Translation, ///< without turning
+        Rotation     ///< turning, and perhaps moving too
+    };
 
-    std::string name; ///< as the file calls the first of the two connectivities
-    std::string firstFace;
-    std::string secondFace;
+    std::string name;       ///< as the file calls the first of the two connectivities
+    std::string firstFace;  ///< id of the face that is mapped
+    std::string secondFace; ///< id of the face onto which it is mapped
 
     /// `Rotation` as soon as an angle is not zero.
     Kind kind = Kind::Translation;
@@ -66,9 +70,9 @@ struct CgnsResult {
     /// Never null. Bodies and faces are in the order of the file, the uncovered faces last.
     std::unique_ptr<LocationModel> model;
 
-    std::vector<CgnsZone> zones; ///< in the order of the file
-    std::vector<CgnsCondition> conditions;
-    std::vector<CgnsPeriodic> periodics;
+    std::vector<CgnsZone> zones;           ///< in the order of the file
+    std::vector<CgnsCondition> conditions; ///< in the order of the file
+    std::vector<CgnsPeriodic> periodics;   ///< in the order of the file, each pair once
 
     /// The id of each body and face that is not called as in the file, with its name there; that of a face
     /// follows the id of its zone: "ZONE/NAME".

@@ -52,7 +52,7 @@ class VolumeType(_Named):
 
 
 class BoundaryType(_Named):
-    """The physical condition on a boundary."""
+    """The physical condition on a boundary: what the flow does there."""
 
     UNSET = -1
     VELOCITY_INLET = 0
@@ -76,7 +76,7 @@ class BoundaryType(_Named):
 
 
 class InterfaceType(_Named):
-    """What happens between the two sides of an interface."""
+    """What happens between the two sides of an interface: what the boundary type of the same name says."""
 
     UNSET = -1
     FAN = 0
@@ -109,7 +109,8 @@ class BoundaryTag(_Named):
 
 
 class ThreadType(_Named):
-    """The kind of a solver thread (a cell or face zone). Unlike in the other enumerations `UNSET` is 0."""
+    """The kind of a solver thread (a cell or face zone); most are called as the volume or boundary type that they
+    realise. Unlike in the other enumerations `UNSET` is 0."""
 
     UNSET = 0
     SOLID = 1

@@ -10,8 +10,10 @@ import textwrap
 
 import headers
 
-# A member without a comment of its own takes that of the same name in another class.
+# A member without a comment of its own, or with one that says no more than where to look, takes that of the same name
+# in another class.
 ELSEWHERE = {"Physics": "TypeManager", "Volume": "Region", "Boundary": "Region", "Interface": "Region"}
+ONLY_LEADS_THERE = "What the member of the same name of `TypeManager` answers."
 
 # What holds in C++ only.
 ONLY_THERE = {
@@ -74,7 +76,7 @@ def table(paths):
             add(rows, room + function.name, function.comment)
     for name, comment in rows.items():
         owner, _, member = name.partition("::")
-        if not comment and owner in ELSEWHERE:
+        if comment in ("", ONLY_LEADS_THERE) and owner in ELSEWHERE:
             rows[name] = rows.get(f"{ELSEWHERE[owner]}::{member}", "")
     return {name: in_python(comment, enumerators) for name, comment in rows.items()}
 

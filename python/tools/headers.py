@@ -51,7 +51,7 @@ class Header:
         self.functions = []
 
 
-COMMENT = re.compile(r"//(/?)<? ?(.*)")
+COMMENT = re.compile(r"///?<? ?(.*)")
 CLASS = re.compile(r"(?:class|struct)(?: [A-Z]+_EXPORT)? (\w+)(?: final)?(?: : [\w:, ]+)? \{")
 FUNCTION = re.compile(r"(~?\w+|operator\S+?)\(")
 SKIPPED = re.compile(r"(friend |using |typedef |template <>|#|(class|struct) \w+;|static_assert)")
@@ -118,34 +118,29 @@ def enumerators(body, where):
 def statements(text, path):
     """(line number, comment, statement) of each declaration; of classes and namespaces, of each brace.
 
-    A comment belongs to what follows it, and to what follows that on the next line as long as both answer the same
-    type or, for a plain comment, until the next empty line."""
-    comment, is_plain, last, pending = [], False, None, ""
+    A comment belongs to what follows it, and one that ends with `@{` to everything up to `@}` that has none itself."""
+    comment, of_group, pending = [], [], ""
     for number, line in enumerate(text.split("\n"), 1):
         line = line.strip()
         if not pending:
+            if line == "/// @{":
+                of_group = comment
+                continue
+            if line == "/// @}":
+                comment, of_group = [], []
+                continue
             if not line or line.startswith("#") or line.startswith("// ----"):
-                comment, last = [], None
+                comment = []
                 continue
             if line.startswith("//"):
-                if last is not None:
-                    comment, last = [], None
-                found = COMMENT.match(line)
-                comment.append(found[2])
-                is_plain = not found[1]
+                comment.append(COMMENT.match(line)[1])
                 continue
             start = number
         line = re.sub(r"\s*//.*$", "", line)
         pending = f"{pending} {line}".strip()
-        if not is_complete(pending):
-            continue
-        statement, pending = re.sub(r"\s+", " ", pending), ""
-        if last is not None and not is_plain and answer(statement) != last:
-            comment = []
-        yield start, " ".join(comment), statement
-        last = answer(statement)
-        if not comment:
-            last = None
+        if is_complete(pending):
+            yield start, " ".join(comment or of_group), re.sub(r"\s+", " ", pending)
+            comment, pending = [], ""
     if pending:
         raise HeaderError(f"{path}: ends within '{pending}'")
 
@@ -160,9 +155,3 @@ def is_complete(text):
     if text.startswith("template") and text.endswith(">"):
         return False
     return text.endswith((";", "}"))
-
-
-def answer(statement):
-    """The type that a member answers; what stands before its name."""
-    found = FUNCTION.search(statement)
-    return re.sub(r"\b(virtual|static|explicit) ", "", statement[:found.start()]) if found else statement

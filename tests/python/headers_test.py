@@ -26,11 +26,16 @@ public:
 
     /// The first
     /// of all names.
+    /// @{
     std::string name() const { return m_name; }
     std::string fullName() const;
-    int size() const;
 
-    // Both of a kind.
+    /// Not a name.
+    int size() const;
+    std::string shortName() const;
+    /// @}
+
+    /// Makes it larger.
     void grow(int by = 1,
               int times = 1);
     bool shrink();
@@ -71,7 +76,8 @@ def test_public_members_are_found_with_their_comments():
 
     assert (thing.name, thing.comment) == ("Thing", "What it is.  More about it.")
     assert members(thing) == {"Thing": "Makes one.", "name": "The first of all names.", "fullName": "The first of all names.",
-                              "size": "", "grow": "Both of a kind.", "shrink": "Both of a kind.", "isBare": ""}
+                              "size": "Not a name.", "shortName": "The first of all names.", "grow": "Makes it larger.",
+                              "shrink": "", "isBare": ""}
 
 
 def test_inner_classes_enumerations_and_functions_are_found():
