@@ -44,5 +44,66 @@ class ChangelogTest(unittest.TestCase):
             self.assertEqual(os.listdir(os.path.join(root, "docs/changelog")), ["README.md"])
 
 
+class ExportsTest(unittest.TestCase):
+    """A history with a list of exported symbols, to which each test adds."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = os.path.join(folder.name, "clone")
+        subprocess.run(["git", "init", "--quiet", self.root], check=True)
+        self.commit(**{"README.md": "first\n"})
+        self.commit(**{"tests/golden/exported/physics.txt": "a()\n", "docs/changelog/a.md": "- Added a.\n"})
+
+    def write(self, **files):
+        for path, text in files.items():
+            os.makedirs(os.path.dirname(os.path.join(self.root, path)), exist_ok=True)
+            with open(os.path.join(self.root, path), "w", encoding="utf-8") as file:
+                file.write(text)
+
+    def commit(self, **files):
+        self.write(**files)
+        tree.git(self.root, "add", "--all")
+        tree.git(self.root, "-c", "user.name=A", "-c", "user.email=a@example.org", "commit", "--quiet", "--message", "m")
+
+    def findings(self, root=None):
+        return [re.sub(r"commit \w+", "commit", finding) for finding in changelog.silent_changes(root or self.root)]
+
+    def silent(self, which):
+        return f"tests/golden/exported/: {which} changes what a library exports and says nothing in docs/changelog/"
+
+    def test_a_commit_that_changes_the_list_with_an_entry_passes(self):
+        self.commit(**{"tests/golden/exported/physics.txt": "b()\n", "docs/changelog/b.md": "- Changed a to b.\n"})
+        self.commit(**{"README.md": "second\n"})
+
+        self.assertEqual(self.findings(), [])
+
+    def test_a_commit_that_changes_the_list_alone_is_found(self):
+        self.commit(**{"tests/golden/exported/physics.txt": "b()\n"})
+        self.commit(**{"docs/changelog/c.md": "- Fixed something else.\n"})
+
+        self.assertEqual(self.findings(), [self.silent("commit")])
+
+    def test_a_new_list_needs_an_entry_too(self):
+        self.commit(**{"tests/golden/exported/importer.txt": "c()\n"})
+
+        self.assertEqual(self.findings(), [self.silent("commit")])
+
+    def test_what_is_not_committed_yet_is_looked_at(self):
+        self.write(**{"tests/golden/exported/physics.txt": "b()\n"})
+        self.assertEqual(self.findings(), [self.silent("the working tree")])
+
+        self.write(**{"docs/changelog/b.md": "- Changed a to b.\n"})
+        self.assertEqual(self.findings(), [])
+
+    def test_a_shallow_clone_passes_though_its_first_commit_seems_to_add_everything(self):
+        self.commit(**{"tests/golden/exported/physics.txt": "b()\n"})
+        shallow = self.root + "-shallow"
+        subprocess.run(["git", "clone", "--quiet", "--depth=1", "file://" + self.root, shallow], check=True)
+
+        self.assertEqual(len(self.findings()), 1)
+        self.assertEqual(self.findings(shallow), [])
+
+
 if __name__ == "__main__":
     unittest.main()

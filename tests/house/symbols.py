@@ -34,12 +34,13 @@ def foreign_wishes(symbols, namespaces, runtime):
             if symbol not in runtime and not any(belongs_to(symbol, namespace) for namespace in namespaces)]
 
 
-def dynamic_symbols(library, which):
-    """The names without version; what is undefined but weak is left out, since nobody has to provide it."""
+def dynamic_symbols(library, which, leave_out="wv"):
+    """The names without version, but for those of the kinds `leave_out`, in the letters of nm: as a rule what is undefined
+    but weak, since nobody has to provide it."""
     listed = subprocess.run(["nm", "--dynamic", "--format=posix", which, library],
                             check=True, text=True, stdout=subprocess.PIPE).stdout
     fields = (line.split() for line in listed.splitlines())
-    return [field[0].partition("@")[0] for field in fields if field[1] not in "wv"]
+    return [field[0].partition("@")[0] for field in fields if field[1] not in leave_out]
 
 
 def runtime_symbols(library):

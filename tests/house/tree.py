@@ -7,11 +7,16 @@ import sys
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
 
+def git(root, *arguments):
+    """What git prints."""
+    # The option lets the check run in a clone that belongs to another user, as in a container.
+    command = ["git", "-c", "safe.directory=*", "-C", root, *arguments]
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout.decode()
+
+
 def files(root=ROOT):
     """The files of the repository, also those not added yet, as sorted paths from its root."""
-    # The option lets the check run in a clone that belongs to another user, as in a container.
-    command = ["git", "-c", "safe.directory=*", "-C", root, "ls-files", "-z", "--cached", "--others", "--exclude-standard"]
-    listed = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout.decode().split("\0")
+    listed = git(root, "ls-files", "-z", "--cached", "--others", "--exclude-standard").split("\0")
     return sorted(path for path in set(listed) if path and os.path.isfile(os.path.join(root, path)))
 
 
