@@ -167,14 +167,4 @@ TEST(CaseTool, theCaseOfTheDocumentationIsTheOneThatIsTested)
                 HasSubstr("```json\n" + contentOf(sourceFile("tests/data/good-cases/channel.json")) + "```\n"));
 }
 
-TEST(CaseTool, theComplaintOfTheDocumentationIsWhatTheProgramSays)
-{
-    const std::string page = contentOf(sourceFile("docs/case-file.md"));
-    const std::string complaint = "read \"VelocityInlt\", expected a boundary type; did you mean \"VelocityInlet\"?";
-
-    EXPECT_THAT(page, HasSubstr(complaint));
-    EXPECT_THAT(contentOf(sourceFile("tests/data/bad-cases/shape/boundary-type-misspelled.expected")),
-                HasSubstr(complaint));
-}
-
 } // namespace

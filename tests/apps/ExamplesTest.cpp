@@ -42,15 +42,6 @@ TEST(Examples, theFanPassageIsReported)
     EXPECT_EQ(run.code, 0);
 }
 
-TEST(Examples, theReportOfTheDocumentationIsRefusedAsItSays)
-{
-    const std::string arguments = "report examples/heat_exchanger.json --object boundary:hot::inlte";
-
-    EXPECT_NE(contentOf(sourceFile("docs/command-line.md"))
-                  .find("    $ physics-case " + arguments + "\n    " + ProgramRun(arguments).err),
-              std::string::npos);
-}
-
 TEST(Examples, aGeometryFileIsListedLikeATopologyFile)
 {
     const ToolRun run({"topology", sourceFile("examples/fan_passage.step")});

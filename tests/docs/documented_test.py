@@ -29,6 +29,24 @@ second
 """
 
 
+class BlocksTest(unittest.TestCase):
+    def test_fenced_and_indented_blocks_are_found_with_their_lines_and_marks(self):
+        page = ("Text.\n\n    $ make\n\n    $ make install\n\nMore:\n\n<!-- with a.txt -->\n    cat a.txt\n\n"
+                "<!-- excerpt of a.h -->\n```cpp\nint a;\n\n    int b;\n```\n")
+
+        self.assertEqual(documented.blocks(page), [(3, "indented", "$ make\n\n$ make install\n", ""),
+                                                   (10, "indented", "cat a.txt\n", "with a.txt"),
+                                                   (14, "cpp", "int a;\n\n    int b;\n", "excerpt of a.h")])
+
+    def test_a_line_that_goes_on_is_no_block(self):
+        self.assertEqual(documented.blocks("- an item\n    of a list\n"), [])
+
+    def test_excerpts_are_no_programs(self):
+        excerpt = "<!-- excerpt of a.h -->\n```cpp\nint a;\n```\n\n"
+
+        self.assertEqual(documented.programs(excerpt + PAGE), [2, 3])
+
+
 class DocumentedTest(unittest.TestCase):
     def test_a_program_is_found_with_its_output(self):
         self.assertEqual(documented.program(PAGE, 1), ("int main() {}\n", "yes\n"))
@@ -46,7 +64,8 @@ class DocumentedTest(unittest.TestCase):
             page, program = os.path.join(root, "page.md"), os.path.join(root, "program")
             with open(page, "w", encoding="utf-8") as file:
                 file.write(PAGE)
-            for script, complaint in [("echo yes", None), ("echo no", "-yes\n\\+no"), ("echo yes; exit 3", "ended with 3")]:
+            for script, complaint in [("echo yes", None), ("echo no", "-yes\n\\+no"), ("echo yes; exit 3", "ended with 3"),
+                                      ("cat examples/fan_passage.json > copy && echo yes", None)]:
                 with self.subTest(script=script):
                     with open(program, "w", encoding="utf-8") as file:
                         file.write(f"#!/bin/sh\n{script}\n")

@@ -320,7 +320,7 @@ std::string documentedText()
 {
     std::ifstream page(std::filesystem::path(PHYSICS_SOURCE_DIR) / "docs/saved-text.md");
     std::string line;
-    while (std::getline(page, line) && line != "<!-- saved-text -->") {
+    while (std::getline(page, line) && line != "<!-- checked by tests/physics/PhysicsSerialiserTest.cpp -->") {
     }
     std::getline(page, line); // the fence
     std::string text;

@@ -71,21 +71,6 @@ TEST(DiffVerb, everyWayInWhichACaseCanChangeIsTold)
     EXPECT_EQ(run.code, 1);
 }
 
-TEST(DiffVerb, theLinesOfTheDocumentationAreWhatTheProgramSays)
-{
-    const std::string page = contentOf(sourceFile("docs/command-line.md"));
-    const std::string start = "    $ physics-case diff before.json after.json\n";
-    const std::size_t first = page.find(start) + start.size();
-    std::istringstream example(page.substr(first, page.find("    4 differences\n") - first));
-    const std::string said = ToolRun({"diff", everything(), changed()}).out;
-
-    int noOfLines = 0;
-    for (std::string line; std::getline(example, line); ++noOfLines) {
-        EXPECT_NE(said.find(line.substr(4) + "\n"), std::string::npos) << line;
-    }
-    EXPECT_EQ(noOfLines, 4);
-}
-
 TEST(DiffVerb, toolsGetTheSameAsJson)
 {
     const ToolRun run({"diff", "--format=json", everything(), changed()});
