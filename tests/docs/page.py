@@ -18,6 +18,7 @@ A comment on the line above a block can say more about it:
 
     <!-- excerpt of FILE -->        these lines stand in FILE, which a build of ours compiles or uses
     <!-- checked by FILE -->        a test of its own in FILE, which names the page
+    <!-- saved as FILE -->          the commands below find the block in their folder, as this file
     <!-- with FILE... -->           the commands find copies of these files in their folder
 
 The commands of a page are run one after the other, in a folder with a copy of examples/. Commands in the running text,
@@ -87,6 +88,9 @@ def try_block(block, previous, page, folder):
         must_name(block.mark.partition(" by ")[2], page)
     elif block.language == "json":
         must_have_the_shape(block.text)
+        if block.mark.startswith("saved as "):
+            with open(os.path.join(folder, block.mark.partition(" as ")[2]), "w", encoding="utf-8") as file:
+                file.write(block.text)
     elif block.language == "indented":
         for file in block.mark.split()[1:]:
             shutil.copy(os.path.join(ROOT, file), folder)
@@ -158,7 +162,7 @@ def run_command(command, folder, must_end_well):
             if not is_there(words):
                 raise PageError(f"`{command}`: there is no such script, preset or target")
             return ""
-    if words[:1] not in (["physics-case"], ["cat"], ["head"]):
+    if words[:1] not in (["physics-case"], ["cat"], ["head"], ["sed"]):
         raise PageError(f"nobody knows whether to run `{command}`")
     environment = {**os.environ, "PATH": os.path.dirname(os.environ["PHYSICS_CASE"]) + ":" + os.environ["PATH"]}
     run = subprocess.run(command, shell=True, cwd=folder, env=environment, text=True, stdout=subprocess.PIPE,

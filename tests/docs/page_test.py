@@ -77,6 +77,11 @@ class PageTest(unittest.TestCase):
     def test_files_can_be_put_beside_the_commands(self):
         self.holds("<!-- with tests/docs/page.py -->\n    $ head -1 page.py\n    #!/usr/bin/env python3\n")
 
+    def test_a_block_can_be_saved_for_the_commands_below_it(self):
+        block = '```json\n{"volumes": [{"name": "a", "location": "b", "type": "Fluid"}]}\n```\n\n'
+        self.holds(f"<!-- saved as a.json -->\n{block}    cat a.json\n")
+        self.fails(f"{block}    cat a.json\n", "`cat a.json` ends with 1")
+
     def test_commands_that_are_not_run_must_be_there(self):
         self.holds("    ./scripts/test -R Volume\n    cmake --preset dev && ctest --preset dev\n"
                    "    cmake --install build/release --prefix /opt/physics\n")
