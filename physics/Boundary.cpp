@@ -18,13 +18,18 @@ namespace physics {
 int Boundary::s_lastUsedId = 0;
 
 Boundary::Boundary(int id, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
-    : m_id(id), m_type(type), m_boundary(boundary), m_volume(volume), m_isDefault(isDefault)
+    : m_id(id),
+      m_type(type),
+      m_boundary(boundary),
+      m_volume(volume),
+      m_isDefault(isDefault),
+      m_interfacePatches(NodeAllocator<char>(physics()->registry().nodes))
 {}
 
 Boundary::Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
     : Boundary(nextId(s_lastUsedId), volume, type, boundary, isDefault)
 {
-    m_ownPatch.reset(new BoundaryPatch(this, nullptr));
+    m_ownPatch.reset(new (physics()->registry().nodes) BoundaryPatch(this, nullptr));
     volume->add(this);
 }
 
@@ -116,7 +121,7 @@ std::vector<BoundaryTag> Boundary::tags() const { return {m_tags.begin(), m_tags
 
 BoundaryPatch* Boundary::addToInterface(Interface* interface)
 {
-    auto* patch = new BoundaryPatch(this, interface);
+    auto* patch = new (physics()->registry().nodes) BoundaryPatch(this, interface);
     setPatch(interface, patch);
     return patch;
 }

@@ -6,7 +6,6 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace gtm {
@@ -226,7 +225,8 @@ private:
     std::set<BoundaryTag> m_tags;
     // Last, so that patches end while the rest of the boundary still answers.
     std::unique_ptr<BoundaryPatch> m_ownPatch;
-    std::unordered_map<const Interface*, std::unique_ptr<BoundaryPatch>> m_interfacePatches;
+    Hashed<const Interface*>::With<std::unique_ptr<BoundaryPatch>> m_interfacePatches;
+    Place<Boundary> m_place{this};
 };
 
 } // namespace physics

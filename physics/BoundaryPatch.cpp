@@ -6,8 +6,6 @@
 #include "physics/Settings.h"
 #include "physics/Volume.h"
 
-#include <algorithm>
-
 namespace physics {
 
 int BoundaryPatch::s_lastUsedId = 0;
@@ -28,17 +26,9 @@ BoundaryPatch::~BoundaryPatch()
             holder->deleteBoundaryPatchSettings(this, kind);
     // What other models were asked to keep for this patch. Settings of no known kind are held by no model;
     // they stay, detached, until the set-up is cleared.
-    std::vector<Settings*> ofOtherModels;
-    ofOtherModels.swap(m_settings);
-    sortById(ofOtherModels);
-    for (Settings* settings : ofOtherModels)
+    for (Settings* settings : m_settings.objects())
         if (Model::isPatchKind(settings->type()))
             delete settings;
-}
-
-void BoundaryPatch::forget(const Settings* settings)
-{
-    m_settings.erase(std::remove(m_settings.begin(), m_settings.end(), settings), m_settings.end());
 }
 
 Volume* BoundaryPatch::volume() const { return m_boundary->volume(); }

@@ -74,6 +74,7 @@ public:
 private:
     friend class Boundary;
     friend class Interface;
+    friend class Model;
     friend class PhysicsSerialiser;
     friend class Settings;
     friend struct std::default_delete<BoundaryPatch>;
@@ -85,12 +86,11 @@ private:
     ~BoundaryPatch();
 
     PatchRecord serialise(const PhysicsSerialiser& serialiser) const;
-    void forget(const Settings* settings);
 
     const int m_id;
     Boundary* m_boundary;
-    Interface* m_interface;            // an interface that ends takes its patches along
-    std::vector<Settings*> m_settings; // all that were made for this patch and live, in whichever model
+    Interface* m_interface;     // an interface that ends takes its patches along
+    Brood<Settings> m_settings; // all that were made for this patch and live, in whichever model
 };
 
 } // namespace physics

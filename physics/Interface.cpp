@@ -202,6 +202,7 @@ void Interface::destroy()
     gtm::Interface* interface = std::exchange(m_interface, nullptr);
     m_boundaries = {nullptr, nullptr};
     m_model = nullptr;
+    m_place.leave();
     endReferences();
     m_physics->registry().keepEnded(this);
     interface->destroy(); // last: whatever it throws, this object has ended and points at nothing

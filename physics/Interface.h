@@ -194,6 +194,7 @@ private:
     double m_angle = 0;
     std::array<double, 3> m_origin = {0, 0, 0};
     std::array<double, 3> m_direction = {1, 0, 0};
+    Place<Interface> m_place{this};
 };
 
 } // namespace physics

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <unordered_map>
 #include <utility>
@@ -58,7 +59,7 @@ private:
 };
 
 /// Base of every object that links and indexes point at.
-class Referable : private NonCopyable {
+class Referable : public Pooled, private NonCopyable {
 protected:
     Referable() : m_serial(++s_lastSerial) {}
     ~Referable() { endReferences(); }
@@ -114,11 +115,37 @@ bool precedes(const T* left, const T* right)
     return left->m_serial < right->m_serial;
 }
 
+/// Sorts elements by the objects that `objectOf` gives for them, in the order of `precedes`. The ids are laid side
+/// by side first, so that sorting does not go back to the objects.
+template <class Element, class ObjectOf>
+void sortByIdOf(std::vector<Element>& elements, ObjectOf objectOf)
+{
+    const auto comesBefore = [&](const Element& left, const Element& right) {
+        return precedes(objectOf(left), objectOf(right));
+    };
+    if (std::is_sorted(elements.begin(), elements.end(), comesBefore))
+        return;
+    struct Keyed {
+        std::int64_t id;
+        Element element;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(elements.size());
+    for (const Element& element : elements) {
+        const auto* object = objectOf(element);
+        keyed.push_back({object == nullptr ? std::numeric_limits<std::int64_t>::min() : object->id(), element});
+    }
+    std::sort(keyed.begin(), keyed.end(), [&](const Keyed& left, const Keyed& right) {
+        return left.id != right.id ? left.id < right.id : comesBefore(left.element, right.element);
+    });
+    std::transform(keyed.begin(), keyed.end(), elements.begin(), [](const Keyed& each) { return each.element; });
+}
+
 /// Sorted as `precedes` has it.
 template <class T>
 void sortById(std::vector<T*>& objects)
 {
-    std::sort(objects.begin(), objects.end(), [](const T* left, const T* right) { return precedes(left, right); });
+    sortByIdOf(objects, [](const T* object) { return object; });
 }
 
 /// Sorted by id, each object once.
@@ -288,8 +315,7 @@ public:
     std::vector<std::pair<const K*, T*>> entriesById() const
     {
         auto result = this->entries();
-        std::sort(result.begin(), result.end(),
-                  [](const auto& left, const auto& right) { return precedes(left.first, right.first); });
+        sortByIdOf(result, [](const auto& entry) { return entry.first; });
         return result;
     }
 
@@ -301,6 +327,83 @@ public:
             result.push_back(entry.second);
         return result;
     }
+};
+
+template <class T>
+class Brood;
+
+/// The place of an object among all that its owner has to end. It lies within the object and leaves with it.
+template <class T>
+class Place : private NonCopyable {
+public:
+    /// Of the object that it lies within; at first with no owner.
+    explicit Place(T* object) : m_object(object) {}
+    ~Place() { leave(); }
+
+    /// For an object that stays allocated after it ended.
+    void leave()
+    {
+        m_previous->m_next = m_next;
+        m_next->m_previous = m_previous;
+        m_previous = this;
+        m_next = this;
+    }
+
+private:
+    friend class Brood<T>;
+
+    T* const m_object;
+    Place* m_previous = this; // a ring, alone or with the list itself
+    Place* m_next = this;
+};
+
+/// All objects that one owner has to end, listed or not, in the order in which they came. Costs no memory and
+/// no search of its own.
+template <class T>
+class Brood : private NonCopyable {
+public:
+    Brood() = default;
+    ~Brood()
+    {
+        while (!isEmpty())
+            m_ring.m_next->leave();
+    }
+
+    /// Entering twice changes nothing.
+    void enter(Place<T>& place)
+    {
+        if (place.m_next != &place)
+            return;
+        place.m_previous = m_ring.m_previous;
+        place.m_next = &m_ring;
+        m_ring.m_previous->m_next = &place;
+        m_ring.m_previous = &place;
+    }
+
+    /// Whether no object is left.
+    bool isEmpty() const { return m_ring.m_next == &m_ring; }
+
+    /// In the order in which they came.
+    std::vector<T*> objects() const
+    {
+        std::vector<T*> result;
+        for (const Place<T>* place = m_ring.m_next; place != &m_ring; place = place->m_next)
+            result.push_back(place->m_object);
+        return result;
+    }
+
+    /// The first object of which the condition is true, or null.
+    template <class Condition>
+    T* firstWith(Condition isTrueOf) const
+    {
+        for (const Place<T>* place = m_ring.m_next; place != &m_ring; place = place->m_next)
+            if (isTrueOf(place->m_object))
+                return place->m_object;
+        return nullptr;
+    }
+
+private:
+    Place<T> m_ring{nullptr};
 };
 
 /// A set of objects that owns nothing; an object leaves it when it ends.

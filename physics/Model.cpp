@@ -29,9 +29,6 @@ Model::Model(Physics* physics, int id)
       m_interfaces(physics->registry().nodes),
       m_volumeSettings(physics->registry().nodes),
       m_internalSettings(physics->registry().nodes),
-      m_patchVolumeSettings(physics->registry().nodes),
-      m_patchShellSettings(physics->registry().nodes),
-      m_patchInterfaceSettings(physics->registry().nodes),
       m_interfaceSettings(physics->registry().nodes)
 {}
 
@@ -86,7 +83,7 @@ Settings* Model::settings(const Volume* volume)
         return nullptr;
     if (Settings* present = m_volumeSettings.find(volume))
         return present;
-    return keep(m_volumeSettings, volume, new Settings(this, member, false));
+    return keep(m_volumeSettings, volume, new (m_physics->registry().nodes) Settings(this, member, false));
 }
 
 Settings* Model::internalSettings(const Volume* volume)
@@ -96,7 +93,7 @@ Settings* Model::internalSettings(const Volume* volume)
         return nullptr;
     if (Settings* present = m_internalSettings.find(volume))
         return present;
-    return keep(m_internalSettings, volume, new Settings(this, member, true));
+    return keep(m_internalSettings, volume, new (m_physics->registry().nodes) Settings(this, member, true));
 }
 
 Settings* Model::settings(const Interface* interface)
@@ -106,7 +103,7 @@ Settings* Model::settings(const Interface* interface)
         return nullptr;
     if (Settings* present = m_interfaceSettings.find(interface))
         return present;
-    return keep(m_interfaceSettings, interface, new Settings(this, member));
+    return keep(m_interfaceSettings, interface, new (m_physics->registry().nodes) Settings(this, member));
 }
 
 Settings* Model::settings(const BoundaryPatch* patch, SettingsType kind)
@@ -117,11 +114,22 @@ Settings* Model::settings(const BoundaryPatch* patch, SettingsType kind)
         return nullptr;
     BoundaryPatch* keyed = patch->boundary()->patch(patch->interface());
     if (!isPatchKind(kind))
-        return new Settings(this, keyed, kind);
-    PatchSettings& map = this->*patchSettingsMap(kind);
-    if (Settings* present = map.find(patch))
+        return new (m_physics->registry().nodes) Settings(this, keyed, kind);
+    if (Settings* present = patchSettings(patch, kind))
         return present;
-    return keep(map, patch, new Settings(this, keyed, kind));
+    auto* settings = new (m_physics->registry().nodes) Settings(this, keyed, kind);
+    adopt(settings);
+    return settings;
+}
+
+/// A patch has few settings: one of each kind, unless other models were asked too. It is null for a boundary whose
+/// end was broken off.
+Settings* Model::patchSettings(const BoundaryPatch* patch, SettingsType kind) const
+{
+    if (patch == nullptr)
+        return nullptr;
+    return patch->m_settings.firstWith(
+        [this, kind](const Settings* settings) { return settings->type() == kind && settings->model() == this; });
 }
 
 template <class K>
@@ -162,31 +170,38 @@ std::vector<Settings*> Model::volumeSettings() const { return m_volumeSettings.o
 std::vector<Settings*> Model::internalSettings() const { return m_internalSettings.objectsById(); }
 std::vector<Settings*> Model::interfaceSettings() const { return m_interfaceSettings.objectsById(); }
 
+std::vector<Settings*> Model::byPatch(const PatchSettings& kept)
+{
+    std::vector<Settings*> result = kept.objects();
+    sortByIdOf(result, [](const Settings* settings) { return settings->boundaryPatch(); });
+    return result;
+}
+
 std::vector<Settings*> Model::boundaryPatchSettings() const
 {
-    std::vector<Settings*> result = m_patchVolumeSettings.objectsById();
-    append(result, m_patchShellSettings.objectsById());
-    append(result, m_patchInterfaceSettings.objectsById());
+    std::vector<Settings*> result = byPatch(m_patchVolumeSettings);
+    append(result, byPatch(m_patchShellSettings));
+    append(result, byPatch(m_patchInterfaceSettings));
     return result;
 }
 
 std::vector<Settings*> Model::volumeSettings(const Boundary* boundary) const
 {
-    return patchSettings(boundary, m_patchVolumeSettings);
+    return patchSettings(boundary, SettingsType::VolumeSettings);
 }
 
 std::vector<Settings*> Model::shellSettings(const Boundary* boundary) const
 {
-    return patchSettings(boundary, m_patchShellSettings);
+    return patchSettings(boundary, SettingsType::ShellSettings);
 }
 
-std::vector<Settings*> Model::patchSettings(const Boundary* boundary, const PatchSettings& map) const
+std::vector<Settings*> Model::patchSettings(const Boundary* boundary, SettingsType kind) const
 {
     std::vector<Settings*> result;
     if (boundary == nullptr)
         return result;
     for (const BoundaryPatch* patch : boundary->patches())
-        if (Settings* settings = map.find(patch))
+        if (Settings* settings = patchSettings(patch, kind))
             result.push_back(settings);
     return result;
 }
@@ -213,7 +228,7 @@ void Model::adopt(Settings* settings)
         m_internalSettings.put(settings->volume(), settings);
         break;
     case TopologyType::Boundary:
-        (this->*patchSettingsMap(settings->type())).put(settings->boundaryPatch(), settings);
+        (this->*patchSettingsOf(settings->type())).enter(settings->m_placeInModel);
         break;
     case TopologyType::Interface:
         m_interfaceSettings.put(settings->interface(), settings);
@@ -290,7 +305,7 @@ std::vector<const BoundaryPatch*> Model::patchesOf(const Interface* interface)
 void Model::deleteBoundaryPatchSettings(const BoundaryPatch* patch, SettingsType kind)
 {
     if (isPatchKind(kind))
-        delete (this->*patchSettingsMap(kind)).find(patch);
+        delete patchSettings(patch, kind);
 }
 
 void Model::move(Volume* volume, Model* target)
@@ -298,9 +313,9 @@ void Model::move(Volume* volume, Model* target)
     if (target == nullptr || target == this)
         return;
     if (m_volumes.contains(volume)) {
-        for (const Boundary* boundary : volume->ownedBoundaries())
+        for (const Boundary* boundary : volume->m_boundaries.objects())
             for (const BoundaryPatch* patch : boundary->patches())
-                moveSettings(&Model::m_patchVolumeSettings, patch, target);
+                moveSettings(patch, SettingsType::VolumeSettings, target);
         moveSettings<Volume>(&Model::m_volumeSettings, volume, target);
         moveSettings<Volume>(&Model::m_internalSettings, volume, target);
         m_volumes.erase(volume);
@@ -314,7 +329,7 @@ void Model::move(Boundary* boundary, Model* target)
         return;
     if (m_boundaries.contains(boundary)) {
         for (const BoundaryPatch* patch : boundary->patches())
-            moveSettings(&Model::m_patchShellSettings, patch, target);
+            moveSettings(patch, SettingsType::ShellSettings, target);
         m_boundaries.erase(boundary);
     }
     target->m_boundaries.insert(boundary);
@@ -326,7 +341,7 @@ void Model::move(Interface* interface, Model* target)
         return;
     if (m_interfaces.contains(interface)) {
         for (const BoundaryPatch* patch : patchesOf(interface))
-            moveSettings(&Model::m_patchInterfaceSettings, patch, target);
+            moveSettings(patch, SettingsType::InterfaceSettings, target);
         moveSettings<Interface>(&Model::m_interfaceSettings, interface, target);
         m_interfaces.erase(interface);
     }
@@ -345,9 +360,20 @@ void Model::moveSettings(PointerIndex<K, Settings> Model::*map, const K* key, Mo
     settings->setModel(target);
 }
 
-bool Model::isPatchKind(SettingsType kind) { return patchSettingsMap(kind) != nullptr; }
+void Model::moveSettings(const BoundaryPatch* patch, SettingsType kind, Model* target)
+{
+    Settings* settings = patchSettings(patch, kind);
+    if (settings == nullptr)
+        return;
+    delete target->patchSettings(patch, kind);
+    settings->m_placeInModel.leave();
+    settings->setModel(target);
+    target->adopt(settings);
+}
 
-Model::PatchSettings Model::*Model::patchSettingsMap(SettingsType kind)
+bool Model::isPatchKind(SettingsType kind) { return patchSettingsOf(kind) != nullptr; }
+
+Model::PatchSettings Model::*Model::patchSettingsOf(SettingsType kind)
 {
     switch (kind) {
     case SettingsType::VolumeSettings:

@@ -127,7 +127,7 @@ private:
         std::string name;
         std::string symbol;
     };
-    using PatchSettings = PointerIndex<BoundaryPatch, Settings>;
+    using PatchSettings = Brood<Settings>;
 
     static int s_lastUsedId;
 
@@ -152,23 +152,28 @@ private:
     void move(Boundary* boundary, Model* target);
     void move(Interface* interface, Model* target);
 
+    /// The settings of one kind that this model keeps for a patch, or null.
+    Settings* patchSettings(const BoundaryPatch* patch, SettingsType kind) const;
+
     /// Ends the settings of one kind that this model keeps for a patch, if there are any.
     void deleteBoundaryPatchSettings(const BoundaryPatch* patch, SettingsType kind);
 
     /// Hands one settings object over to the same map of another model.
     template <class K>
     void moveSettings(PointerIndex<K, Settings> Model::*map, const K* key, Model* target);
+    void moveSettings(const BoundaryPatch* patch, SettingsType kind, Model* target);
 
     template <class K>
     Settings* keep(PointerIndex<K, Settings>& map, const K* key, Settings* settings);
 
-    /// The map for a kind of patch settings, or null for a value outside the enumeration.
-    static PatchSettings Model::*patchSettingsMap(SettingsType kind);
+    /// Where the patch settings of a kind are kept, or null for a value outside the enumeration.
+    static PatchSettings Model::*patchSettingsOf(SettingsType kind);
     static bool isPatchKind(SettingsType kind);
+    static std::vector<Settings*> byPatch(const PatchSettings& kept);
 
     /// The patches of both sides, each once.
     static std::vector<const BoundaryPatch*> patchesOf(const Interface* interface);
-    std::vector<Settings*> patchSettings(const Boundary* boundary, const PatchSettings& map) const;
+    std::vector<Settings*> patchSettings(const Boundary* boundary, SettingsType kind) const;
 
     const int m_id;
     Physics* const m_physics;
@@ -177,11 +182,12 @@ private:
     Members<Interface> m_interfaces;
     PointerIndex<Volume, Settings> m_volumeSettings;
     PointerIndex<Volume, Settings> m_internalSettings;
-    PatchSettings m_patchVolumeSettings;
+    PatchSettings m_patchVolumeSettings; // found through the patches, which know them
     PatchSettings m_patchShellSettings;
     PatchSettings m_patchInterfaceSettings;
     PointerIndex<Interface, Settings> m_interfaceSettings;
     std::map<int, Domain> m_domains;
+    Place<Model> m_place{this};
 };
 
 } // namespace physics

@@ -18,8 +18,8 @@
 
 namespace physics {
 
-/// Memory for the nodes of the containers of one set-up. Nodes of a size lie side by side, so that walking an
-/// index of a large set-up touches little else, and getting and returning one costs a few instructions. All
+/// Memory for the objects of one set-up and the nodes of their containers. Nodes of a size lie side by side, so that
+/// walking an index of a large set-up touches little else, and getting and returning one costs a few instructions. All
 /// memory goes back when the last node is returned. With the address sanitizer each node is an allocation of
 /// its own, so that the sanitizer sees what becomes of it.
 class NodePool : private NonCopyable {
@@ -57,7 +57,7 @@ public:
 
 private:
     static constexpr std::size_t granule = alignof(std::max_align_t);
-    static constexpr std::size_t largest = 256;
+    static constexpr std::size_t largest = 512;
 
     struct Returned {
         Returned* next;
@@ -103,6 +103,38 @@ private:
     std::array<Slot, largest / granule> m_slots = {};
     std::vector<std::unique_ptr<std::byte[]>> m_chunks;
     std::size_t m_noOfNodes = 0;
+};
+
+/// Base of objects that lie in a pool, which must outlive them. The pool is noted in front of each object, so that
+/// `delete` finds it.
+class Pooled {
+protected:
+    Pooled() = default;
+    ~Pooled() = default;
+
+    /// `new (pool) T(...)`; there is no other way.
+    static void* operator new(std::size_t bytes, NodePool& pool)
+    {
+        void* memory = pool.allocate(sizeof(Note) + bytes);
+        return new (memory) Note{&pool, sizeof(Note) + bytes} + 1;
+    }
+
+    /// Gives the memory back to the pool that it came from.
+    static void operator delete(void* object)
+    {
+        Note* note = static_cast<Note*>(object) - 1;
+        const Note copy = *note;
+        copy.pool->deallocate(note, copy.bytes);
+    }
+
+    /// For a constructor that throws.
+    static void operator delete(void* object, NodePool& /*pool*/) { operator delete(object); }
+
+private:
+    struct alignas(std::max_align_t) Note {
+        NodePool* pool;
+        std::size_t bytes;
+    };
 };
 
 /// Lets a container take its nodes from a pool, which must outlive it.

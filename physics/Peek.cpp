@@ -31,7 +31,7 @@ Settings* Peek::settings(const Interface& interface)
 Settings* Peek::settings(const BoundaryPatch& patch, SettingsType kind)
 {
     const Model* model = patch.model(kind);
-    return model == nullptr ? nullptr : (model->*Model::patchSettingsMap(kind)).find(&patch);
+    return model == nullptr ? nullptr : model->patchSettings(&patch, kind);
 }
 
 std::vector<int> Peek::zoneIds(const ThreadBundle& bundle) { return bundle.zoneIds(false); }

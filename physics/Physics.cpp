@@ -40,7 +40,7 @@ bool Physics::isForeign(const Boundary* boundary) const { return boundary->volum
 
 Model* Physics::createModel()
 {
-    auto* model = new Model(this);
+    auto* model = new (m_registry->nodes) Model(this);
     m_registry->add(model);
     return model;
 }
@@ -94,7 +94,7 @@ Volume* Physics::constructVolume(VolumeType type, Model* model, gtm::Interior* i
     try {
         if (defaultName != nullptr)
             interior->rename(*defaultName);
-        return new Volume(this, type, modelOrPrimary(model), interior, defaultName != nullptr);
+        return new (m_registry->nodes) Volume(this, type, modelOrPrimary(model), interior, defaultName != nullptr);
     } catch (...) {
         if (defaultName == nullptr)
             interior->destroy();
@@ -117,7 +117,7 @@ Interface* Physics::createInterface(const std::string& name, Boundary* first, Bo
         return nullptr;
     }
     try {
-        return new Interface(this, type, modelOrPrimary(model), interface, first, second);
+        return new (m_registry->nodes) Interface(this, type, modelOrPrimary(model), interface, first, second);
     } catch (...) {
         interface->destroy();
         throw;

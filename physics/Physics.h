@@ -65,7 +65,8 @@ public:
 
     /// Ends every object but ended interfaces, which stay readable, drops the activation groups and unmasks
     /// the bodies of every part. Flags, type tables and the id counters stay: ids go on. All pointers to
-    /// objects are dead afterwards, but those to interfaces.
+    /// objects are dead afterwards, but those to interfaces. Should the location model throw, call it again:
+    /// what is left is still owned, but not found or listed any more.
     void clear();
 
     // ---- Creation. A null model stands for the primary model. Null when the location model refuses, and

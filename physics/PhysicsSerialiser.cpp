@@ -72,6 +72,8 @@ std::vector<const Record*> byId(const ReadBlock<Record>& block)
 
 } // namespace
 
+NodePool& PhysicsSerialiser::nodes() const { return m_physics->registry().nodes; }
+
 // ---- Saving
 
 /// All objects of one class in a set-up that is saved. Their records are made one by one as they are written:

@@ -25,6 +25,7 @@ class Boundary;
 class BoundaryPatch;
 class Interface;
 class Model;
+class NodePool;
 class Physics;
 class Settings;
 class Volume;
@@ -63,6 +64,9 @@ public:
     /// The id of the patch of a boundary for an interface, or for none (-1).
     int patchId(int boundary, int interface) const { return find(m_patchIds, {boundary, interface}); }
     Physics* physics() const { return m_physics; }
+
+    /// Where the objects are made.
+    NodePool& nodes() const;
 
 private:
     /// What stands for the indices of the topology section.

@@ -19,13 +19,13 @@ Registry::~Registry()
 
 void Registry::add(Model* model)
 {
-    m_models.insert(model);
+    m_models.enter(model->m_place);
     models.put(model->id(), model);
 }
 
 void Registry::add(Volume* volume)
 {
-    m_volumes.insert(volume);
+    m_volumes.enter(volume->m_place);
     volumesByName.put(volume->name(), volume);
     volumes.put(volume->id(), volume);
     if (volume->isDefaultVolume())
@@ -40,14 +40,14 @@ void Registry::add(Boundary* boundary)
 
 void Registry::add(Interface* interface)
 {
-    m_interfaces.insert(interface);
+    m_interfaces.enter(interface->m_place);
     interfacesByName.put(interface->name(), interface);
     interfaces.put(interface->id(), interface);
 }
 
 void Registry::add(Settings* object)
 {
-    m_settings.insert(object);
+    m_settings.enter(object->m_place);
     settings.put(object->id(), object);
     for (ThreadBundle* bundle : object->threadBundles())
         add(bundle);
@@ -129,18 +129,34 @@ std::vector<Boundary*> Registry::allBoundaries() const
 
 void Registry::clear()
 {
-    activationGroups.clear();
+    const std::vector<Interface*> endingInterfaces = allInterfaces();
+    const std::vector<Volume*> endingVolumes = allVolumes();
+    forgetAll(); // all at once costs less than one by one
 
-    for (Interface* interface : allInterfaces())
+    for (Interface* interface : endingInterfaces)
         interface->destroy();
-    for (Volume* volume : allVolumes())
+    for (Volume* volume : endingVolumes)
         volume->destroy();
-    for (Model* model : m_models.byId())
+    for (Model* model : m_models.objects())
         model->destroy();
-    for (Settings* detached : m_settings.byId())
+    for (Settings* detached : m_settings.objects())
         delete detached;
 
     // Empty by now: every entry has gone with its object.
+}
+
+void Registry::forgetAll()
+{
+    activationGroups.clear();
+    volumesByName.clear();
+    interfacesByName.clear();
+    volumes.clear();
+    boundaries.clear();
+    interfaces.clear();
+    settings.clear();
+    bundlesByThreadId.clear();
+    bundlesByZoneId.clear();
+    boundariesByLocation.clear();
 }
 
 } // namespace physics

@@ -83,11 +83,14 @@ public:
     ActivationGroups activationGroups;
 
 private:
+    /// Empties the indexes and groups; the objects are still owned.
+    void forgetAll();
+
     // All live objects that are owned here; volumes own their boundaries, settings their bundles.
-    Members<Model> m_models{nodes};
-    Members<Volume> m_volumes{nodes};
-    Members<Interface> m_interfaces{nodes};
-    Members<Settings> m_settings{nodes};
+    Brood<Model> m_models;
+    Brood<Volume> m_volumes;
+    Brood<Interface> m_interfaces;
+    Brood<Settings> m_settings;
     std::vector<Interface*> m_endedInterfaces;
 };
 

@@ -28,7 +28,7 @@ Settings::Settings(int id, Model* model, SettingsType type, TopologyType topolog
       m_topologyType(topologyType)
 {
     if (patch != nullptr)
-        patch->m_settings.push_back(this);
+        patch->m_settings.enter(m_placeInPatch);
 }
 
 Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
@@ -54,8 +54,6 @@ Settings::Settings(Model* model, Interface* interface)
 Settings::~Settings()
 {
     m_physics->registry().remove(this);
-    if (m_boundaryPatch)
-        m_boundaryPatch->forget(this);
     for (const auto& entry : m_bundles)
         delete entry.second;
     m_bundles.clear();
@@ -121,7 +119,7 @@ ThreadBundle* Settings::createThreadBundle(int index, ThreadType type, int threa
         present->setDomainIds(domainIds);
         return present;
     }
-    auto* bundle = new ThreadBundle(this, index, type, threadId, domainIds);
+    auto* bundle = new (m_physics->registry().nodes) ThreadBundle(this, index, type, threadId, domainIds);
     ThreadBundle*& entry = m_bundles[index];
     if (entry != nullptr) {
         m_indexByThreadId.erase({entry->threadId(), index});

@@ -164,6 +164,9 @@ private:
     std::map<int, ThreadBundle*> m_bundles;          // owned
     std::vector<ThreadBundle*> m_replacedBundles;    // owned
     std::set<std::pair<int, int>> m_indexByThreadId; // (thread id, index) of the listed bundles
+    Place<Settings> m_place{this};
+    Place<Settings> m_placeInPatch{this};
+    Place<Settings> m_placeInModel{this}; // of those of patches, among the ones of their kind
 };
 
 } // namespace physics

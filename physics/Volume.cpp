@@ -22,8 +22,7 @@ Volume::Volume(Physics* physics, int id, VolumeType type, Model* model, gtm::Int
       m_interior(interior),
       m_isDefault(isDefault),
       m_physics(physics),
-      m_boundariesByName(physics->registry().nodes),
-      m_boundaries(physics->registry().nodes)
+      m_boundariesByName(physics->registry().nodes)
 {}
 
 Volume::Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault)
@@ -110,7 +109,8 @@ Boundary* Volume::constructBoundary(gtm::Boundary* boundary, BoundaryType type, 
     try {
         if (isDefault)
             boundary->rename(*defaultName);
-        return new Boundary(this, type == BoundaryType::Unset ? defaultBoundaryType() : type, boundary, isDefault);
+        return new (m_physics->registry().nodes)
+            Boundary(this, type == BoundaryType::Unset ? defaultBoundaryType() : type, boundary, isDefault);
     } catch (...) {
         if (isDefault)
             m_interior->activateDefaultBoundary(false);
@@ -127,7 +127,7 @@ std::vector<Boundary*> Volume::ownedBoundaries() const { return listedFirst(boun
 /// Takes the boundary into the lists of the volume, and no further.
 void Volume::adopt(Boundary* boundary)
 {
-    m_boundaries.insert(boundary);
+    m_boundaries.enter(boundary->m_place);
     m_boundariesByName.put(boundary->name(), boundary);
     if (boundary->isDefaultBoundary())
         m_defaultBoundary = boundary;
@@ -226,7 +226,9 @@ void Volume::destroy()
     if (m_model)
         m_model->remove(this);
     m_physics->registry().remove(this);
-    for (Boundary* boundary : ownedBoundaries())
+    const std::vector<Boundary*> boundaries = ownedBoundaries();
+    m_boundariesByName.clear(); // all at once costs less than one by one
+    for (Boundary* boundary : boundaries)
         boundary->destroy();
     // Two default volumes share the one default interior; it stays on for a newer one.
     if (!m_isDefault)

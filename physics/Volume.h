@@ -199,7 +199,8 @@ private:
     Physics* const m_physics;
     Link<Boundary> m_defaultBoundary;
     Index<std::string, Boundary> m_boundariesByName;
-    Members<Boundary> m_boundaries; // all that the volume owns
+    Brood<Boundary> m_boundaries; // all that the volume owns
+    Place<Volume> m_place{this};
 };
 
 } // namespace physics

@@ -25,6 +25,14 @@ PairList pairsOf(const PointerIndex<K, Settings>& map)
     return pairs;
 }
 
+PairList pairsOf(const std::vector<Settings*>& ofPatches)
+{
+    PairList pairs;
+    for (const Settings* settings : ofPatches)
+        pairs.emplace_back(settings->boundaryPatch()->id(), settings->id());
+    return pairs;
+}
+
 } // namespace
 
 ModelRecord Model::serialise(const PhysicsSerialiser& /*serialiser*/) const
@@ -34,8 +42,12 @@ ModelRecord Model::serialise(const PhysicsSerialiser& /*serialiser*/) const
     record.volumes = idsOf(m_volumes.objects());
     record.boundaries = idsOf(m_boundaries.objects());
     record.interfaces = idsOf(m_interfaces.objects());
-    record.settings = {pairsOf(m_volumeSettings),     pairsOf(m_internalSettings),       pairsOf(m_patchVolumeSettings),
-                       pairsOf(m_patchShellSettings), pairsOf(m_patchInterfaceSettings), pairsOf(m_interfaceSettings)};
+    record.settings = {pairsOf(m_volumeSettings),
+                       pairsOf(m_internalSettings),
+                       pairsOf(byPatch(m_patchVolumeSettings)),
+                       pairsOf(byPatch(m_patchShellSettings)),
+                       pairsOf(byPatch(m_patchInterfaceSettings)),
+                       pairsOf(m_interfaceSettings)};
     for (const auto& [id, domain] : m_domains)
         record.domains.push_back({id, domain.type, domain.name});
     return record;
@@ -44,7 +56,7 @@ ModelRecord Model::serialise(const PhysicsSerialiser& /*serialiser*/) const
 /// The members join when they are restored themselves.
 Model* Model::restore(const PhysicsSerialiser& serialiser, const ModelRecord& record)
 {
-    auto* model = new Model(serialiser.physics(), record.id);
+    auto* model = new (serialiser.nodes()) Model(serialiser.physics(), record.id);
     serialiser.physics()->registry().add(model);
     for (const DomainRecord& domain : record.domains)
         model->addDomain(domain.id, domain.type, domain.name);
@@ -69,8 +81,8 @@ Volume* Volume::restore(const PhysicsSerialiser& serialiser, const VolumeRecord&
 {
     Physics* physics = serialiser.physics();
     Model* model = serialiser.model(record.model);
-    auto* volume =
-        new Volume(physics, record.id, record.type, model, serialiser.interior(record.interior), record.isDefault);
+    auto* volume = new (serialiser.nodes())
+        Volume(physics, record.id, record.type, model, serialiser.interior(record.interior), record.isDefault);
     volume->m_activationGroup = record.activationGroup;
     if (model != nullptr)
         model->m_volumes.insert(volume);
@@ -99,8 +111,10 @@ BoundaryRecord Boundary::serialise(const PhysicsSerialiser& serialiser) const
 Boundary* Boundary::restore(const PhysicsSerialiser& serialiser, const BoundaryRecord& record)
 {
     Volume* volume = serialiser.volume(record.volume);
-    auto* boundary = new Boundary(record.id, volume, record.type, serialiser.place(record.place), record.isDefault);
-    boundary->m_ownPatch.reset(new BoundaryPatch(serialiser.patchId(record.id, -1), boundary, nullptr));
+    auto* boundary = new (serialiser.nodes())
+        Boundary(record.id, volume, record.type, serialiser.place(record.place), record.isDefault);
+    boundary->m_ownPatch.reset(new (serialiser.nodes())
+                                   BoundaryPatch(serialiser.patchId(record.id, -1), boundary, nullptr));
     boundary->m_shellType = record.shellType;
     boundary->m_shellModel = serialiser.model(record.shellModel);
     if (boundary->m_shellModel)
@@ -132,9 +146,9 @@ Interface* Interface::restore(const PhysicsSerialiser& serialiser, const Interfa
 {
     Physics* physics = serialiser.physics();
     Model* model = serialiser.model(record.model);
-    auto* interface =
-        new Interface(physics, record.id, record.type, model, serialiser.join(record.join),
-                      serialiser.boundary(record.boundaries[0]), serialiser.boundary(record.boundaries[1]));
+    auto* interface = new (serialiser.nodes())
+        Interface(physics, record.id, record.type, model, serialiser.join(record.join),
+                  serialiser.boundary(record.boundaries[0]), serialiser.boundary(record.boundaries[1]));
     interface->m_periodicity = record.periodicity;
     interface->m_meshConnectivity = record.meshConnectivity;
     interface->m_isMapped = record.isMapped;
@@ -142,8 +156,8 @@ Interface* Interface::restore(const PhysicsSerialiser& serialiser, const Interfa
     interface->m_isMeshValid = record.isMeshValid;
     for (Boundary* boundary : interface->m_boundaries)
         if (boundary->patch(interface) == nullptr) // else it is on both sides
-            boundary->setPatch(interface,
-                               new BoundaryPatch(serialiser.patchId(boundary->id(), record.id), boundary, interface));
+            boundary->setPatch(interface, new (serialiser.nodes()) BoundaryPatch(
+                                              serialiser.patchId(boundary->id(), record.id), boundary, interface));
     if (model != nullptr)
         model->m_interfaces.insert(interface);
     physics->registry().add(interface);
@@ -180,7 +194,8 @@ Settings* Settings::restore(const PhysicsSerialiser& serialiser, const SettingsR
     Volume* volume = serialiser.volume(record.volume);
     BoundaryPatch* patch = serialiser.patch(record.patch);
     Interface* interface = serialiser.interface(record.interface);
-    auto* settings = new Settings(record.id, model, record.type, record.topologyType, volume, patch, interface);
+    auto* settings =
+        new (serialiser.nodes()) Settings(record.id, model, record.type, record.topologyType, volume, patch, interface);
     for (const BundleRecord& bundle : record.bundles) {
         settings->m_bundles.emplace(bundle.index, ThreadBundle::restore(settings, bundle));
         settings->m_indexByThreadId.emplace(bundle.threadId, bundle.index);
@@ -204,7 +219,8 @@ BundleRecord ThreadBundle::serialise() const
 /// Not registered before its settings are: the zones of the text count, not inherited ones.
 ThreadBundle* ThreadBundle::restore(Settings* settings, const BundleRecord& record)
 {
-    return new ThreadBundle(settings, record.index, record.type, record.threadId, record.domainIds, record.zoneIds);
+    return new (settings->physics()->registry().nodes)
+        ThreadBundle(settings, record.index, record.type, record.threadId, record.domainIds, record.zoneIds);
 }
 
 } // namespace physics

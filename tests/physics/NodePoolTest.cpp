@@ -6,6 +6,7 @@
 #include <cstring>
 #include <map>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -77,6 +78,49 @@ TEST(NodePool, isReadyAgainAfterTheLastNodeWasReturned)
             map.emplace(i, std::to_string(i));
         EXPECT_EQ("999", map.at(999));
     }
+}
+
+/// An object that is as large as asked for and may refuse to come into being.
+template <std::size_t bytes>
+class PooledObject : public Pooled {
+public:
+    explicit PooledObject(bool refuses = false)
+    {
+        if (refuses)
+            throw std::runtime_error("refused");
+        std::memset(m_filling, 7, bytes);
+    }
+    static PooledObject* make(NodePool& pool, bool refuses = false) { return new (pool) PooledObject(refuses); }
+    void end() { delete this; }
+
+private:
+    unsigned char m_filling[bytes];
+};
+
+TEST(NodePool, objectsGoBackToThePoolThatTheyCameFrom)
+{
+    NodePool first;
+    NodePool second;
+    auto* ofFirst = PooledObject<40>::make(first);
+    auto* ofSecond = PooledObject<40>::make(second);
+    auto* tooLarge = PooledObject<2000>::make(first);
+
+    ofFirst->end();
+    tooLarge->end();
+    ofSecond->end();
+
+    // A pool that is empty gives the memory back, so that a node left behind would be a leak.
+    auto* again = PooledObject<40>::make(second);
+    EXPECT_EQ(0U, reinterpret_cast<std::uintptr_t>(again) % alignof(std::max_align_t));
+    again->end();
+}
+
+TEST(NodePool, objectThatRefusesToComeIntoBeingLeavesNoMemoryBehind)
+{
+    NodePool pool;
+
+    EXPECT_THROW(PooledObject<40>::make(pool, true), std::runtime_error);
+    EXPECT_THROW(PooledObject<2000>::make(pool, true), std::runtime_error);
 }
 
 } // namespace
