@@ -2,8 +2,7 @@
 
 #include "apps/Output.h"
 
-#include <signal.h>
-
+#include <csignal>
 #include <ostream>
 #include <utility>
 

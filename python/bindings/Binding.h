@@ -18,7 +18,9 @@ namespace physics::python {
 template <class T>
 struct HeldFor {
     using type = Handle<T>;
-    using Class = pybind11::class_<type, HandleBase<T>, std::shared_ptr<type>>;
+    // Python knows a base only where there are several kinds of it.
+    using Base = std::conditional_t<std::is_same_v<HandleBase<T>, HandleToOne<T>>, AnyHandle, HandleBase<T>>;
+    using Class = pybind11::class_<type, Base, std::shared_ptr<type>>;
 };
 template <>
 struct HeldFor<physics::Region> {
@@ -65,6 +67,7 @@ auto wrapped(Member member, Give answer)
         T& object = held.object();
         [[maybe_unused]] auto& place = held.owner();
         const auto call = [&]() -> decltype(auto) { return (object.*member)(ArgumentFor<A>::use(place, taken)...); };
+        static_cast<void>(answer); // a member that answers nothing needs none
         if constexpr (std::is_void_v<decltype(call())>)
             call();
         else

@@ -37,6 +37,15 @@ private:
     const void* const m_address; // never dereferenced
 };
 
+/// Handle of an object that has no base of its own.
+template <class T>
+class HandleToOne : public AnyHandle {
+public:
+    using AnyHandle::AnyHandle;
+
+    virtual T& object() const = 0;
+};
+
 /// Handle of a volume, a boundary or an interface.
 template <>
 class Handle<physics::Region> : public AnyHandle {
@@ -65,9 +74,9 @@ template <class T>
 constexpr bool mayBeGone = !isOfGeometry<T> && !std::is_same_v<T, Interface>;
 
 template <class T>
-using HandleBase =
-    std::conditional_t<isOfGeometry<T>, Handle<gtm::Region>,
-                       std::conditional_t<std::is_base_of_v<physics::Region, T>, Handle<physics::Region>, AnyHandle>>;
+using HandleBase = std::conditional_t<
+    isOfGeometry<T>, Handle<gtm::Region>,
+    std::conditional_t<std::is_base_of_v<physics::Region, T>, Handle<physics::Region>, HandleToOne<T>>>;
 
 template <class T>
 class Handle final : public HandleBase<T> {
@@ -77,7 +86,7 @@ public:
     {}
 
     /// Throws `EndedError` when the object is gone.
-    T& object() const
+    T& object() const override
     {
         if (T* const present = get())
             return *present;
