@@ -14,6 +14,7 @@
 #include "gtm/LocationModel.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <set>
 
 namespace physics {
@@ -193,6 +194,18 @@ std::vector<Boundary*> Physics::boundaries() const
         for (Boundary* boundary : volume->boundaries())
             boundaries.push_back(boundary);
     return boundaries;
+}
+
+std::vector<Region*> Physics::unlistedRegions() const
+{
+    std::vector<Region*> unlisted;
+    const auto add = [&unlisted](const auto& all, const auto& listed) {
+        unlisted.insert(unlisted.end(), all.begin() + static_cast<std::ptrdiff_t>(listed.size()), all.end());
+    };
+    add(m_registry->allVolumes(), volumes());
+    add(m_registry->allBoundaries(), boundaries());
+    add(m_registry->allInterfaces(), interfaces());
+    return unlisted;
 }
 
 std::vector<BoundaryPatch*> Physics::boundaryPatches() const

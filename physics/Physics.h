@@ -137,7 +137,7 @@ public:
     // ---- Lists.
 
     /// Volumes and interfaces in ascending byte order of their names at creation. Of two with equal names
-    /// the newer is listed; the other lives on and is found by its id.
+    /// the newer is listed; the other lives on and is found by its id and in `unlistedRegions`.
     /// @{
     std::vector<Volume*> volumes() const;
     std::vector<Interface*> interfaces() const;
@@ -148,6 +148,10 @@ public:
 
     /// Volume by volume, each in the volume's own order.
     std::vector<Boundary*> boundaries() const;
+
+    /// The volumes, then boundaries, then interfaces, each by id, that are in none of these lists, because
+    /// another of an equal name took their place; with the boundaries of such volumes.
+    std::vector<Region*> unlistedRegions() const;
 
     /// Model by model, each by id; and their bundles, by index.
     /// @{

@@ -1,14 +1,12 @@
 #include "apps/check/CheckReport.h"
 
 #include "apps/check/Listed.h"
+#include "apps/check/NameFindings.h"
 #include "apps/check/RuleFindings.h"
 #include "apps/check/StateFindings.h"
-#include "physics/Boundary.h"
-#include "physics/Interface.h"
-#include "physics/Physics.h"
-#include "physics/Volume.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace physics::apps {
@@ -41,6 +39,27 @@ std::vector<const Region*> allRegions(const Listed& setUp)
     add(setUp.boundaries);
     add(setUp.interfaces);
     return regions;
+}
+
+/// Those of the library, which are about what the set-up lists, and those about the rest.
+std::vector<Physics::Complaint> complaintsAbout(const Listed& setUp, bool ignoreWarnings)
+{
+    std::vector<Physics::Complaint> complaints = setUp.physics.complaints(ignoreWarnings);
+    if (setUp.unlisted.empty()) {
+        return complaints;
+    }
+    std::unordered_map<const Region*, std::vector<std::string>> lines;
+    for (Physics::Complaint& complaint : complaints) {
+        lines[complaint.region] = std::move(complaint.lines);
+    }
+    for (const Region* region : setUp.unlisted) {
+        lines[region] = region->validate(ignoreWarnings);
+    }
+    complaints.clear();
+    for (const Region* region : allRegions(setUp)) {
+        complaints.push_back({region, std::move(lines[region])});
+    }
+    return complaints;
 }
 
 bool isWarning(const Finding& finding) { return rowOf(finding.kind).severity == Severity::Warning; }
@@ -81,11 +100,12 @@ CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& mod
 {
     CheckReport report;
     const Listed setUp(physics);
-    // All four lists are in the order of the set-up, which begins with what is about no object.
+    // All lists are in the order of the set-up, which begins with what is about no object.
     InOrder byCase(findingsOf(refusals));
     InOrder byState(findByState(setUp, model));
     InOrder byRules(findByRules(setUp));
-    InOrder byLibrary(physics.complaints(ignoreWarnings));
+    InOrder byName(findByName(setUp));
+    InOrder byLibrary(complaintsAbout(setUp, ignoreWarnings));
     for (const Region* region : allRegions(setUp)) {
         CheckReport::Object object{region, {}, {}};
         const auto take = [&object, ignoreWarnings](Finding& finding) {
@@ -96,6 +116,7 @@ CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& mod
         byCase.takeAbout(region, take);
         byState.takeAbout(region, take);
         byRules.takeAbout(region, take);
+        byName.takeAbout(region, take);
         byLibrary.takeAbout(region, [&object](Physics::Complaint& said) { object.lines = std::move(said.lines); });
         std::stable_sort(object.findings.begin(), object.findings.end(),
                          [](const Finding& left, const Finding& right) { return left.kind < right.kind; });

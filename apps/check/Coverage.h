@@ -42,8 +42,8 @@ struct Coverage {
     std::vector<const Boundary*> owners; ///< of each face side together, in the order of the set-up
 
     std::vector<const gtm::Body*> maskedBodies; ///< left out
-    std::vector<const Volume*> volumes;         ///< all, in the order of the set-up
-    std::vector<const Boundary*> boundaries;    ///< all, in the order of the set-up
+    std::vector<const Volume*> volumes;         ///< all, in the order of the set-up, also those that it does not list
+    std::vector<const Boundary*> boundaries;    ///< the same
 
     std::size_t noInOne = 0;
     std::size_t noInSeveral = 0;

@@ -31,6 +31,7 @@ const std::vector<FindingRow>& allFindingKinds()
         {UnsharedMesh, "PS015", Error, "The two sides of an internal face have different meshes"},
         {UnmatchedTag, "PS016", Warning, "A boundary meant for an interface is in none"},
         {Refused, "PS017", Error, "Part of the case could not be made"},
+        {EqualName, "PS018", Error, "Something has the name of another"},
     };
     return rows;
 }

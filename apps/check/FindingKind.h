@@ -25,6 +25,7 @@ enum class FindingKind {
     UnsharedMesh,
     UnmatchedTag,
     Refused,
+    EqualName,
 };
 
 /// An error makes a set-up invalid. A warning is what somebody may have meant.

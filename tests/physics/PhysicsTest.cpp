@@ -24,6 +24,7 @@ using physics::InterfaceType;
 using physics::Model;
 using physics::Periodicity;
 using physics::Physics;
+using physics::Region;
 using physics::Settings;
 using physics::ThreadType;
 using physics::Volume;
@@ -745,6 +746,23 @@ TEST_F(PhysicsTest, leavesOutTheBoundariesOfAVolumeThatIsNotListed)
 
     EXPECT_EQ(physics.boundaries(), Boundaries{listed});
     EXPECT_EQ(physics.findBoundaryById(hidden->id()), hidden);
+}
+
+TEST_F(PhysicsTest, tellsWhatEqualNamesKeepOutOfTheLists)
+{
+    Volume* hidden = volume("same");
+    Boundary* below = boundaryOf(hidden, "1");
+    Volume* listed = volume("same");
+    Boundary* older = boundaryOf(listed, "1");
+    EXPECT_EQ(physics.unlistedRegions(), (std::vector<Region*>{hidden, below}));
+
+    Boundary* newer = boundaryOf(listed, "1");
+    Interface* lost = physics.createInterface("joint", older, newer, InterfaceType::Wall);
+    physics.createInterface("joint", older, newer, InterfaceType::Wall);
+    EXPECT_EQ(physics.unlistedRegions(), (std::vector<Region*>{hidden, below, older, lost}));
+
+    hidden->destroy(); // takes the place of the other in the list along
+    EXPECT_EQ(physics.unlistedRegions(), (std::vector<Region*>{listed, older, newer, lost}));
 }
 
 TEST_F(PhysicsTest, listsSettingsAndTheirBundlesModelByModel)

@@ -54,6 +54,15 @@ def test_an_overlapping_neighbour_without_volume_is_none_in_the_list(setup):
     assert hot.overlapping_volumes() == [None]
 
 
+def test_what_an_equal_name_hides_is_listed_apart(setup):
+    hidden = setup.create_volume("same", "hot", VolumeType.FLUID)
+    hidden_end = hidden.create_boundary("end", "hot end")
+    listed = setup.create_volume("same", "cold", VolumeType.FLUID)
+
+    assert setup.volumes() == [listed]
+    assert setup.unlisted_regions() == [hidden, hidden_end]
+
+
 def test_a_boundary_knows_its_volume_its_pair_and_its_interfaces(case):
     assert case.hot_wall.full_name() == "hot::wall"
     assert case.hot_wall.volume() is case.hot

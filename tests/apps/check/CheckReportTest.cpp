@@ -125,6 +125,37 @@ TEST_F(ChangedSetUp, isCoveredWithNames)
     EXPECT_EQ(coverage.ownersOf(coverage.faceSides[3]), std::vector<std::string>{});
 }
 
+/// Names are looked up anew when a set-up is restored: of two volumes, boundaries and interfaces called the same, the
+/// older drops out of its list then.
+TEST_F(ChangedSetUp, isCheckedToTheEndAlthoughEqualNamesHideSomeOfIt)
+{
+    physics->createInterface("contact", leftContact, rightContact, InterfaceType::Wall);
+    physics->createInterface("spare", leftContact, rightContact, InterfaceType::Wall)->rename("contact");
+    in->destroy();
+    left->createBoundary("in", std::string("in"), BoundaryType::Interior);
+    right->rename("left");
+    out->rename("contact");
+    const int hidden = left->id();
+    ASSERT_TRUE(physics->restore(physics->serialise()));
+    ASSERT_EQ(physics->volumes(), std::vector<Volume*>{physics->findVolumeById(hidden + 1)});
+
+    const CheckReport report = checked();
+
+    EXPECT_EQ(idsOf(report),
+              (std::vector<std::string>{"PS018 left", "PS018 left::contact", "PS014 left::in", "PS018 contact"}));
+    EXPECT_EQ(report.objects.front().region, physics->findVolumeById(hidden));
+    EXPECT_EQ(
+        report.findings().front()->message,
+        "The volume \"left\" with the id " + std::to_string(hidden) +
+            " is not in the lists of the set-up, because another volume has its name. Give it a name of its own.");
+    EXPECT_EQ(report.objects.front().lines,
+              std::vector<std::string>{"Error: One of more of the boundaries has an error."});
+    EXPECT_EQ(report.coverage.noInOne, 4U);
+    EXPECT_EQ(report.coverage.ownersOf(report.coverage.faceSides[0]), std::vector<std::string>{"left::in"});
+    EXPECT_EQ(report.coverage.volumes.size(), 2U);
+    EXPECT_EQ(report.coverage.boundaries.size(), 4U);
+}
+
 TEST_F(ChangedSetUp, leavesMaskedBodiesOutOfItsCoverage)
 {
     physics->maskBodies({model->bodies()[1]});

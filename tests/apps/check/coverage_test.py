@@ -8,6 +8,7 @@ import json
 import pathlib
 import subprocess
 import sys
+import tempfile
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
@@ -49,9 +50,9 @@ def derived(topology, coverage):
         for side in boundary["faceSides"]:
             owners[side].append(boundary["name"])
     volumes_of = collections.defaultdict(set)
-    for volume in coverage["volumes"]:
+    for number, volume in enumerate(coverage["volumes"]):  # two of one name are two volumes
         for body in volume["bodies"]:
-            volumes_of[body].add(volume["name"])
+            volumes_of[body].add(number)
     sides = {}
     for face in topology["faces"]:
         both = [body for _, body in sides_of(face)]
@@ -64,8 +65,9 @@ def derived(topology, coverage):
 
 class CoverageTest(unittest.TestCase):
     def check(self, case):
-        coverage = output_of("check", case, "--format=json")["coverage"]
-        topology = topology_of(geometry_of(case))
+        self.compare(output_of("check", case, "--format=json")["coverage"], topology_of(geometry_of(case)))
+
+    def compare(self, coverage, topology):
         expected = derived(topology, coverage)
         stated = {side["id"]: (body["id"], side["face"], side["isInternal"], side["boundaries"])
                   for body in coverage["bodies"] for side in body["faceSides"]}
@@ -85,6 +87,27 @@ class CoverageTest(unittest.TestCase):
         for case in CASES:
             with self.subTest(case.name):
                 self.check(case)
+
+    def test_stated_coverage_has_both_of_two_volumes_of_one_name(self):
+        topology = {"format": "physics-topology", "version": 1, "bodies": [{"id": "left"}, {"id": "right"}],
+                    "faces": [{"id": "in", "sides": ["left"]}, {"id": "grid", "sides": ["left", "right"]},
+                              {"id": "out", "sides": ["right"]}]}
+        case = {"format": "physics-case", "version": 1, "geometry": "topology.json",
+                "volumes": [{"name": name, "location": name, "type": "Fluid",
+                             "boundaries": [{"name": "all", "default": True}]} for name in ("left", "right")]}
+        with tempfile.TemporaryDirectory() as folder:
+            folder = pathlib.Path(folder)
+            (folder / "topology.json").write_text(json.dumps(topology))
+            (folder / "case.json").write_text(json.dumps(case))
+            subprocess.run([PROGRAM, "save", folder / "case.json", "-o", folder / "saved"], check=True)
+            text = (folder / "saved").read_text()
+            self.assertEqual(text.count(" right\n"), 2)  # the volume and, behind it, its location
+            (folder / "saved").write_text(text.replace(" right\n", " left\n", 1))
+            checked = output_of("check", folder / "saved", "--geometry", folder / "topology.json", "--format=json")
+            self.assertEqual([(finding["id"], finding["subject"]["name"]) for finding in checked["findings"]],
+                             [("PS018", "left")])
+            self.assertEqual(checked["coverage"]["inOneBoundary"], 4)
+            self.compare(checked["coverage"], topology)
 
 
 if __name__ == "__main__":
