@@ -60,11 +60,11 @@ def build(setup: physics.Physics) -> None:
 
 
 def main() -> None:
-    geometry, notes, _ = read_cad(Path(__file__).with_name("heat_exchanger.step"))
-    for note in notes:
+    read = read_cad(Path(__file__).with_name("heat_exchanger.step"))
+    for note in read.notes:
         print("note:", note)
 
-    setup = physics.Physics(geometry, enforce_restrictions=True)
+    setup = physics.Physics(read.model, enforce_restrictions=True)
     with setup.building():  # so that a refusal ends the script with its reasons
         build(setup)
 

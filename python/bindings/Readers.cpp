@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,11 +32,14 @@ namespace {
 using pybind11::arg;
 
 using Lines = std::vector<Text>;
-using Condition = std::tuple<Text, Text, Text>;
+using Names = std::vector<std::tuple<Text, Text>>;
+using Zone = std::tuple<Text, Text, Text>;
+using Condition = std::tuple<Text, Text, Text, Text>;
 using Periodic = std::tuple<Text, Text, Text, bool, Triple, Triple, Triple>;
 using Triangles = std::tuple<Text, std::vector<Triple>, std::vector<std::array<std::size_t, 3>>>;
-using CadAnswer = std::tuple<std::shared_ptr<Geometry>, Lines, std::vector<Triangles>>;
-using CgnsAnswer = std::tuple<std::shared_ptr<Geometry>, std::vector<Condition>, std::vector<Periodic>, Lines>;
+using CadAnswer = std::tuple<std::shared_ptr<Geometry>, Lines, std::vector<Triangles>, Names>;
+using CgnsAnswer = std::tuple<std::shared_ptr<Geometry>, std::vector<Condition>, std::vector<Periodic>, Lines,
+                              std::vector<Zone>, Names>;
 
 #if !defined(PHYSICS_HAS_CAD) || !defined(PHYSICS_HAS_CGNS)
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& kind)
@@ -54,6 +58,14 @@ Lines linesOf(const std::vector<std::string>& texts)
     return lines;
 }
 
+Names namesOf(const std::map<std::string, std::string>& renamed)
+{
+    Names names;
+    for (const auto& [id, name] : renamed)
+        names.emplace_back(Text{id}, Text{name});
+    return names;
+}
+
 Triple tripleOf(const std::array<double, 3>& values) { return {values[0], values[1], values[2]}; }
 #endif
 
@@ -67,7 +79,8 @@ CadAnswer readCad(const std::filesystem::path& file, std::optional<bool> imprint
         std::transform(face.points.begin(), face.points.end(), std::back_inserter(points), tripleOf);
         triangles.emplace_back(Text{face.face}, std::move(points), face.triangles);
     }
-    return {std::make_shared<Geometry>(std::move(result.model)), linesOf(result.notes), std::move(triangles)};
+    return {std::make_shared<Geometry>(std::move(result.model)), linesOf(result.notes), std::move(triangles),
+            namesOf(result.renamed)};
 #else
     static_cast<void>(imprint);
     static_cast<void>(tolerance);
@@ -79,16 +92,25 @@ CgnsAnswer readCgns(const std::filesystem::path& file, bool bodiesAreFamilies)
 {
 #ifdef PHYSICS_HAS_CGNS
     gtm::bundled::CgnsResult result = gtm::bundled::readCgns(file, {bodiesAreFamilies});
+    std::vector<Zone> zones;
+    for (const gtm::bundled::CgnsZone& zone : result.zones)
+        zones.emplace_back(Text{zone.body}, Text{zone.name}, Text{zone.family});
     std::vector<Condition> conditions;
     for (const gtm::bundled::CgnsCondition& condition : result.conditions)
-        conditions.emplace_back(Text{condition.face}, Text{condition.type}, Text{condition.family});
+        conditions.emplace_back(Text{condition.face}, Text{condition.type}, Text{condition.family},
+                                Text{condition.name});
     std::vector<Periodic> periodics;
     for (const gtm::bundled::CgnsPeriodic& periodic : result.periodics)
         periodics.emplace_back(Text{periodic.name}, Text{periodic.firstFace}, Text{periodic.secondFace},
                                periodic.kind == gtm::bundled::CgnsPeriodic::Kind::Rotation,
                                tripleOf(periodic.rotationCentre), tripleOf(periodic.rotationAngle),
                                tripleOf(periodic.translation));
-    return {std::make_shared<Geometry>(std::move(result.model)), conditions, periodics, linesOf(result.notes)};
+    return {std::make_shared<Geometry>(std::move(result.model)),
+            conditions,
+            periodics,
+            linesOf(result.notes),
+            zones,
+            namesOf(result.renamed)};
 #else
     static_cast<void>(bodiesAreFamilies);
     refuse(file, "CGNS");

@@ -23,7 +23,7 @@ from physics.values import BodyFacts, FaceFacts
 
 __all__ = [
     "Body", "BodyFacts", "CadError", "CadResult", "CadTriangles", "CgnsCondition", "CgnsError", "CgnsPeriodic",
-    "CgnsResult", "Face", "FaceFacts", "FaceSide", "FaceUse", "Location", "LocationModel", "Part", "Region",
+    "CgnsResult", "CgnsZone", "Face", "FaceFacts", "FaceSide", "FaceUse", "Location", "LocationModel", "Part", "Region",
     "TopologyBuilder", "TopologyError", "ZoneSide", "read_cad", "read_cgns", "read_topology", "read_topology_text",
     "write_topology",
 ]
@@ -68,20 +68,32 @@ class CadTriangles(NamedTuple):
 
 class CadResult(NamedTuple):
     """What was read. `notes` say what the file has and the model has not, and every name that could not be kept; one
-    sentence each. `triangles` has each face, in their order, when they were asked for."""
+    sentence each. `triangles` has each face, in their order, when they were asked for. `renamed` has the name in the
+    file of each part, body and face that is called otherwise here, by its id."""
 
     model: LocationModel
     notes: "list[str]"
     triangles: "list[CadTriangles]"
+    renamed: "dict[str, str]"
+
+
+class CgnsZone(NamedTuple):
+    """What the file says about a zone: the id of the body that it is, or is a piece of, its name, and its family, which
+    is empty when the file names none."""
+
+    body: str
+    name: str
+    family: str
 
 
 class CgnsCondition(NamedTuple):
     """What the file says about the face of a boundary condition: the id of the face, a type such as "BCWallViscous",
-    and the family, which is empty when the file names none."""
+    the family, which is empty when the file names none, and the name of the condition, without the zone."""
 
     face: str
     type: str
     family: str
+    name: str
 
 
 class CgnsPeriodic(NamedTuple):
@@ -99,12 +111,15 @@ class CgnsPeriodic(NamedTuple):
 
 class CgnsResult(NamedTuple):
     """What was read. `notes` say what the file has and the model has not, and everything that was changed or doubtful;
-    one sentence each."""
+    one sentence each. `renamed` has the name in the file of each body and face that is called otherwise here, by its
+    id."""
 
     model: LocationModel
     conditions: "list[CgnsCondition]"
     periodics: "list[CgnsPeriodic]"
     notes: "list[str]"
+    zones: "list[CgnsZone]"
+    renamed: "dict[str, str]"
 
 
 def read_cad(file: "Union[str, os.PathLike[str]]", imprint: Optional[bool] = None,
@@ -113,13 +128,13 @@ def read_cad(file: "Union[str, os.PathLike[str]]", imprint: Optional[bool] = Non
     common where bodies touch; None does so for STEP, in which every body has faces of its own, and not for BREP, which
     keeps shared faces. With `triangle_tolerance`, a length above zero, faces are also told in triangles that are not
     further from them. Raises `CadError`."""
-    model, notes, triangles = _native._read_cad(file, imprint, triangle_tolerance)
-    return CadResult(model, notes, [CadTriangles(*each) for each in triangles])
+    model, notes, triangles, renamed = _native._read_cad(file, imprint, triangle_tolerance)
+    return CadResult(model, notes, [CadTriangles(*each) for each in triangles], dict(renamed))
 
 
 def read_cgns(file: "Union[str, os.PathLike[str]]", bodies_are_families: bool = False) -> CgnsResult:
     """Reads a CGNS file of any version with one three-dimensional base. Each zone becomes a body, or, with
     `bodies_are_families`, all zones of one family. Raises `CgnsError`."""
-    model, conditions, periodics, notes = _native._read_cgns(file, bodies_are_families)
+    model, conditions, periodics, notes, zones, renamed = _native._read_cgns(file, bodies_are_families)
     return CgnsResult(model, [CgnsCondition(*each) for each in conditions], [CgnsPeriodic(*each) for each in periodics],
-                      notes)
+                      notes, [CgnsZone(*each) for each in zones], dict(renamed))

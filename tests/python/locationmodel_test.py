@@ -90,10 +90,23 @@ def test_a_wrong_topology_file_is_an_error_with_its_place(tmp_path):
 
 
 def test_a_geometry_file_is_read_with_its_notes():
-    model, notes, triangles = read_cad(EXAMPLES / "heat_exchanger.step")
+    result = read_cad(EXAMPLES / "heat_exchanger.step")
 
-    assert [body.id() for body in model] == ["hot", "cold", "tube"]
-    assert notes == [] and triangles == []
+    assert [body.id() for body in result.model] == ["hot", "cold", "tube"]
+    assert (result.notes, result.triangles, result.renamed) == ([], [], {})
+
+
+def test_what_is_called_otherwise_than_in_the_file_keeps_its_name_there(tmp_path):
+    file = tmp_path / "comma.step"
+    text = (EXAMPLES / "heat_exchanger.step").read_text()
+    assert "PRODUCT('hot','hot'" in text
+    file.write_text(text.replace("PRODUCT('hot','hot'", "PRODUCT('hot','hot, inner'"))
+
+    result = read_cad(file)
+
+    assert [body.id() for body in result.model] == ["hot_ inner", "cold", "tube"]
+    assert result.renamed == {"hot_ inner": "hot, inner"}
+    assert result.notes[-1].startswith('Body "hot, inner" is called "hot_ inner" here, ')
 
 
 def test_imprinting_can_be_chosen():
@@ -104,7 +117,8 @@ def test_imprinting_can_be_chosen():
 
 
 def test_a_geometry_file_tells_measures_and_triangles():
-    model, _, triangles = read_cad(EXAMPLES / "fan_passage.step", triangle_tolerance=1)
+    result = read_cad(EXAMPLES / "fan_passage.step", triangle_tolerance=1)
+    model, triangles = result.model, result.triangles
 
     assert all(model.facts(body).volume > 0 for body in model)
     assert all(model.facts(face).area > 0 and len(model.facts(face).centroid) == 3 for face in model.faces())
@@ -186,3 +200,6 @@ def test_a_mesh_file_is_read():
     assert result.model.bodies() and all(condition.face for condition in result.conditions)
     known = {face.id() for face in result.model.faces()}
     assert {condition.face for condition in result.conditions} <= known
+    assert [zone.body for zone in result.zones] == [body.id() for body in result.model]
+    assert all(zone.name == zone.body for zone in result.zones) and result.renamed == {}
+    assert all(condition.name for condition in result.conditions)
