@@ -55,7 +55,7 @@ public:
 
     /// The boundary that takes every outward face use which no other boundary of this interior uses.
     /// It lives as long as the interior and is switched on and off, never destroyed.
-    /// Never null, switched on or off; off at first.
+    /// Off at first. Null where the location model has none.
     Boundary* defaultBoundary() const;
 
     /// Switches the default boundary on or off. Off, it stands for no face use.

@@ -52,7 +52,7 @@ public:
     void activateDefaultInterior(bool active);
 
     /// The interior of every unmasked body that no other interior uses. It lives as long as this
-    /// object and is switched on and off, never destroyed; off at first. Never null.
+    /// object and is switched on and off, never destroyed; off at first. Null where the location model has none.
     Interior* defaultInterior() const;
 
     /// Whether it is switched on.
