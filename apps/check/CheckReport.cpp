@@ -6,6 +6,7 @@
 #include "apps/check/StateFindings.h"
 
 #include <algorithm>
+#include <memory>
 #include <unordered_map>
 #include <utility>
 
@@ -102,11 +103,11 @@ CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& mod
     const Listed setUp(physics);
     // All lists are in the order of the set-up, which begins with what is about no object.
     InOrder byCase(findingsOf(refusals));
-    InOrder byState(findByState(setUp, model));
-    InOrder byRules(findByRules(setUp));
     InOrder byName(findByName(setUp));
     InOrder byLibrary(complaintsAbout(setUp, ignoreWarnings));
-    for (const Region* region : allRegions(setUp)) {
+    const std::unique_ptr<Examiner> byState = examinerOfStates(model);
+    const std::unique_ptr<Examiner> byRules = examinerOfRules();
+    const auto look = [&](const Region* region, const auto& asked) {
         CheckReport::Object object{region, {}, {}};
         const auto take = [&object, ignoreWarnings](Finding& finding) {
             if (!ignoreWarnings || !isWarning(finding)) {
@@ -114,8 +115,10 @@ CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& mod
             }
         };
         byCase.takeAbout(region, take);
-        byState.takeAbout(region, take);
-        byRules.takeAbout(region, take);
+        for (Examiner* examiner : {byState.get(), byRules.get()}) {
+            std::vector<Finding> findings = examiner->about(asked);
+            std::for_each(findings.begin(), findings.end(), take);
+        }
         byName.takeAbout(region, take);
         byLibrary.takeAbout(region, [&object](Physics::Complaint& said) { object.lines = std::move(said.lines); });
         std::stable_sort(object.findings.begin(), object.findings.end(),
@@ -123,8 +126,22 @@ CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& mod
         if (!object.findings.empty() || !object.lines.empty()) {
             report.objects.push_back(std::move(object));
         }
+    };
+    look(nullptr, physics);
+    for (const Volume* volume : setUp.volumes) {
+        look(volume, *volume);
     }
-    report.coverage = coverageOf(setUp, model);
+    std::vector<Ownership> ownerships;
+    for (const Boundary* boundary : setUp.boundaries) {
+        look(boundary, *boundary);
+        for (const gtm::FaceUse* faceUse : boundary->faceUses()) {
+            ownerships.emplace_back(faceUse, boundary);
+        }
+    }
+    for (const Interface* interface : setUp.interfaces) {
+        look(interface, *interface);
+    }
+    report.coverage = coverageOf(setUp, model, std::move(ownerships));
     return report;
 }
 

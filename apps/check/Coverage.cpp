@@ -15,24 +15,9 @@
 namespace physics::apps {
 namespace {
 
-using Ownership = std::pair<const gtm::FaceUse*, const Boundary*>;
-
 bool isBefore(const Ownership& left, const Ownership& right)
 {
     return std::less<>()(left.first, right.first); // only to find them again: no output is in this order
-}
-
-/// Which boundary has which face use; those of one face use stand together, in the order of the set-up.
-std::vector<Ownership> ownershipsOf(const std::vector<const Boundary*>& boundaries)
-{
-    std::vector<Ownership> ownerships;
-    for (const Boundary* boundary : boundaries) {
-        for (const gtm::FaceUse* faceUse : boundary->faceUses()) {
-            ownerships.emplace_back(faceUse, boundary);
-        }
-    }
-    std::stable_sort(ownerships.begin(), ownerships.end(), isBefore);
-    return ownerships;
 }
 
 /// The internal faces of all volumes, to be searched.
@@ -69,12 +54,12 @@ std::vector<std::string> Coverage::ownersOf(const FaceSide& faceSide) const
     return names;
 }
 
-Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model)
+Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model, std::vector<Ownership> ownerships)
 {
     Coverage coverage;
     coverage.volumes.assign(setUp.volumes.begin(), setUp.volumes.end());
     coverage.boundaries.assign(setUp.boundaries.begin(), setUp.boundaries.end());
-    const std::vector<Ownership> ownerships = ownershipsOf(coverage.boundaries);
+    std::stable_sort(ownerships.begin(), ownerships.end(), isBefore); // the owners of one face use stand together
     for (const Ownership& ownership : ownerships) {
         coverage.owners.push_back(ownership.second);
     }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace physics {
@@ -54,7 +55,11 @@ struct Coverage {
     std::vector<std::string> ownersOf(const FaceSide& faceSide) const;
 };
 
-/// Cost: that of sorting the face sides. The set-up must lie on `model`.
-Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model);
+/// Which boundary has which face use.
+using Ownership = std::pair<const gtm::FaceUse*, const Boundary*>;
+
+/// Cost: that of sorting the face sides. The set-up must lie on `model`, and `ownerships` have all face uses of its
+/// boundaries, in the order of the set-up.
+Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model, std::vector<Ownership> ownerships);
 
 } // namespace physics::apps

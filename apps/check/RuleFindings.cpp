@@ -1,7 +1,6 @@
 #include "apps/check/RuleFindings.h"
 
 #include "apps/Joined.h"
-#include "apps/check/Listed.h"
 #include "apps/check/Naming.h"
 #include "gtm/Face.h"
 #include "gtm/FaceUse.h"
@@ -9,6 +8,7 @@
 #include "gtm/TopologyMap.h"
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
+#include "physics/Physics.h"
 #include "physics/TypeNames.h"
 #include "physics/Volume.h"
 
@@ -16,6 +16,7 @@
 #include <set>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace physics::apps {
 namespace {
@@ -38,11 +39,25 @@ std::string allowedTypes(const std::vector<std::string>& names)
     return names.empty() ? "; no type is allowed." : "; allowed are " + joined(names) + ".";
 }
 
-class Finder {
-public:
-    explicit Finder(const Listed& setUp) : m_setUp(setUp) {}
+/// The mesh zones on a side of a face, negative where their faces look away from the first side.
+std::set<std::int64_t> zonesOf(const gtm::TopologyMap* map, const gtm::FaceUse* faceUse, bool isSecondSide)
+{
+    std::set<std::int64_t> zones;
+    if (map != nullptr && faceUse != nullptr) {
+        for (const gtm::ExternalFaceSide& side : map->externalFaceSides(faceUse)) {
+            const std::int64_t zone = side.zoneId;
+            zones.insert((side.sideWord != 0) == isSecondSide ? zone : -zone);
+        }
+    }
+    return zones;
+}
 
-    std::vector<Finding> find();
+class RuleExaminer final : public Examiner {
+public:
+    std::vector<Finding> about(const Physics& setUp) override;
+    std::vector<Finding> about(const Volume& volume) override;
+    std::vector<Finding> about(const Boundary& boundary) override;
+    std::vector<Finding> about(const Interface& interface) override;
 
 private:
     void findUnsharedMesh(const Volume& volume);
@@ -54,57 +69,48 @@ private:
     template <class R>
     void add(FindingKind kind, const R& region, const std::string& rest, Details details = {});
 
-    std::set<std::int64_t> zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const;
     const std::unordered_set<const gtm::Face*>& internalFaces(const Volume& volume);
 
-    const Listed& m_setUp;
-    std::vector<Finding> m_findings;
+    std::vector<Finding> m_findings; ///< about the present region
     std::unordered_map<const Volume*, std::unordered_set<const gtm::Face*>> m_internalFaces;
 };
 
-std::vector<Finding> Finder::find()
+std::vector<Finding> RuleExaminer::about(const Physics& /*setUp*/) { return {}; }
+
+std::vector<Finding> RuleExaminer::about(const Volume& volume)
 {
-    for (const Volume* volume : m_setUp.volumes) {
-        findUnsharedMesh(*volume);
-    }
-    for (const Boundary* boundary : m_setUp.boundaries) {
-        findTypeAgainstVolume(*boundary);
-        findInternalTypeOutside(*boundary);
-        findUnmatchedTag(*boundary);
-    }
-    for (const Interface* interface : m_setUp.interfaces) {
-        findTypeAgainst(*interface, Side::First);
-        findTypeAgainst(*interface, Side::Second);
-    }
-    return std::move(m_findings);
+    findUnsharedMesh(volume);
+    return std::exchange(m_findings, {});
+}
+
+std::vector<Finding> RuleExaminer::about(const Boundary& boundary)
+{
+    findTypeAgainstVolume(boundary);
+    findInternalTypeOutside(boundary);
+    findUnmatchedTag(boundary);
+    return std::exchange(m_findings, {});
+}
+
+std::vector<Finding> RuleExaminer::about(const Interface& interface)
+{
+    findTypeAgainst(interface, Side::First);
+    findTypeAgainst(interface, Side::Second);
+    return std::exchange(m_findings, {});
 }
 
 template <class R>
-void Finder::add(FindingKind kind, const R& region, const std::string& rest, Details details)
+void RuleExaminer::add(FindingKind kind, const R& region, const std::string& rest, Details details)
 {
     const Finding::Subject subject = subjectOf(region);
     m_findings.push_back({kind, subject, &region, theSubject(subject) + " " + rest, std::move(details)});
 }
 
-/// The mesh zones on a side of a face, negative where their faces look away from the first side.
-std::set<std::int64_t> Finder::zonesOf(const gtm::FaceUse* faceUse, bool isSecondSide) const
+void RuleExaminer::findUnsharedMesh(const Volume& volume)
 {
-    std::set<std::int64_t> zones;
-    const gtm::TopologyMap* map = m_setUp.physics.locationModel()->solverZoneMap();
-    if (map != nullptr && faceUse != nullptr) {
-        for (const gtm::ExternalFaceSide& side : map->externalFaceSides(faceUse)) {
-            const std::int64_t zone = side.zoneId;
-            zones.insert((side.sideWord != 0) == isSecondSide ? zone : -zone);
-        }
-    }
-    return zones;
-}
-
-void Finder::findUnsharedMesh(const Volume& volume)
-{
+    const gtm::TopologyMap* map = volume.physics()->locationModel()->solverZoneMap();
     std::vector<const gtm::Face*> faces;
     for (const gtm::Face* face : volume.unusedInternalFaces()) {
-        if (zonesOf(face->firstFaceUse(), false) != zonesOf(face->secondFaceUse(), true)) {
+        if (zonesOf(map, face->firstFaceUse(), false) != zonesOf(map, face->secondFaceUse(), true)) {
             faces.push_back(face);
         }
     }
@@ -115,7 +121,7 @@ void Finder::findUnsharedMesh(const Volume& volume)
     }
 }
 
-void Finder::findTypeAgainstVolume(const Boundary& boundary)
+void RuleExaminer::findTypeAgainstVolume(const Boundary& boundary)
 {
     const Volume& volume = *boundary.volume();
     if (volume.isAllowedBoundaryType(boundary.type())) {
@@ -129,7 +135,7 @@ void Finder::findTypeAgainstVolume(const Boundary& boundary)
         {{"type", {type}}, {"volumeType", {volumeType}}, {"allowed", allowed}});
 }
 
-void Finder::findTypeAgainst(const Interface& interface, Side side)
+void RuleExaminer::findTypeAgainst(const Interface& interface, Side side)
 {
     const Boundary* boundary = interface.boundary(side);
     if (boundary == nullptr || interface.isAllowedBoundaryType(boundary->volumeType(), boundary->type())) {
@@ -152,7 +158,7 @@ void Finder::findTypeAgainst(const Interface& interface, Side side)
          {"allowed", allowed}});
 }
 
-void Finder::findInternalTypeOutside(const Boundary& boundary)
+void RuleExaminer::findInternalTypeOutside(const Boundary& boundary)
 {
     if (!boundary.isInternal()) {
         return;
@@ -186,14 +192,14 @@ void Finder::findInternalTypeOutside(const Boundary& boundary)
         {{"faces", idsOf(faces)}, {"faceSides", idsOf(faceSides)}});
 }
 
-void Finder::findUnmatchedTag(const Boundary& boundary)
+void RuleExaminer::findUnmatchedTag(const Boundary& boundary)
 {
     if (boundary.hasTag(BoundaryTag::Interface) && boundary.noOfInterfaces() == 0) {
         add(FindingKind::UnmatchedTag, boundary, "is tagged for use in an interface and is in none.");
     }
 }
 
-const std::unordered_set<const gtm::Face*>& Finder::internalFaces(const Volume& volume)
+const std::unordered_set<const gtm::Face*>& RuleExaminer::internalFaces(const Volume& volume)
 {
     const auto [entry, isNew] = m_internalFaces.try_emplace(&volume);
     if (isNew) {
@@ -205,6 +211,6 @@ const std::unordered_set<const gtm::Face*>& Finder::internalFaces(const Volume& 
 
 } // namespace
 
-std::vector<Finding> findByRules(const Listed& setUp) { return Finder(setUp).find(); }
+std::unique_ptr<Examiner> examinerOfRules() { return std::make_unique<RuleExaminer>(); }
 
 } // namespace physics::apps

@@ -1,6 +1,5 @@
 #include "apps/check/StateFindings.h"
 
-#include "apps/check/Listed.h"
 #include "apps/check/Naming.h"
 #include "gtm/Body.h"
 #include "gtm/Face.h"
@@ -10,12 +9,14 @@
 #include "locationmodel/LocationModel.h"
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
+#include "physics/Physics.h"
 #include "physics/TypeNames.h"
 #include "physics/Volume.h"
 #include "support/NearestName.h"
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace physics::apps {
 namespace {
@@ -69,20 +70,19 @@ std::string phraseFor(FindingKind kind)
     }
 }
 
-class Finder {
+class StateExaminer final : public Examiner {
 public:
-    Finder(const Listed& setUp, const gtm::bundled::LocationModel& model) : m_setUp(setUp), m_model(model) {}
+    explicit StateExaminer(const gtm::bundled::LocationModel& model) : m_model(model) {}
 
-    std::vector<Finding> find();
+    std::vector<Finding> about(const Physics& setUp) override;
+    std::vector<Finding> about(const Volume& volume) override;
+    std::vector<Finding> about(const Boundary& boundary) override;
+    std::vector<Finding> about(const Interface& interface) override;
 
 private:
     using Details = std::map<std::string, std::vector<std::string>>;
 
-    void look(const Volume& volume);
-    void look(const Boundary& boundary);
-    void look(const Interface& interface);
-
-    /// Adds what the state of a region says, unless this kind of finding has been made since `m_first`.
+    /// Adds what the state of a region says, unless this kind of finding has been made about it.
     template <class R, class Entity>
     void addState(const R& region, const Entity& entity);
     template <class R>
@@ -96,37 +96,25 @@ private:
     const std::vector<std::string>& bodyNames();
     const std::vector<std::string>& surfaceNames();
 
-    const Listed& m_setUp;
     const gtm::bundled::LocationModel& m_model;
-    std::vector<Finding> m_findings;
-    std::size_t m_first = 0; ///< where the findings about the present region begin
+    std::vector<Finding> m_findings; ///< about the present region
     std::vector<std::string> m_bodyNames;
     std::vector<std::string> m_surfaceNames;
     std::size_t m_noOfSearches = 0;
 };
 
-std::vector<Finding> Finder::find()
+std::vector<Finding> StateExaminer::about(const Physics& setUp)
 {
-    for (const std::string& body : idsOf(m_setUp.physics.unusedBodies())) {
+    for (const std::string& body : idsOf(setUp.unusedBodies())) {
         const Finding::Subject subject{"body", body};
         m_findings.push_back(
             {FindingKind::UnusedBody, subject, nullptr, theSubject(subject) + " is in no volume.", {}});
     }
-    for (const Volume* volume : m_setUp.volumes) {
-        look(*volume);
-    }
-    for (const Boundary* boundary : m_setUp.boundaries) {
-        look(*boundary);
-    }
-    for (const Interface* interface : m_setUp.interfaces) {
-        look(*interface);
-    }
-    return std::move(m_findings);
+    return std::exchange(m_findings, {});
 }
 
-void Finder::look(const Volume& volume)
+std::vector<Finding> StateExaminer::about(const Volume& volume)
 {
-    m_first = m_findings.size();
     if (const auto names = volume.unresolvableNames(); !names.empty()) {
         addUnresolvable(volume, *volume.interior(), names, bodyNames());
     }
@@ -135,33 +123,34 @@ void Finder::look(const Volume& volume)
         add(FindingKind::UncoveredSurface, volume, "In none: " + listed(faceSides) + ".", {{"faceSides", faceSides}});
     }
     addState(volume, *volume.interior());
+    return std::exchange(m_findings, {});
 }
 
-void Finder::look(const Boundary& boundary)
+std::vector<Finding> StateExaminer::about(const Boundary& boundary)
 {
-    m_first = m_findings.size();
     if (const auto names = boundary.unresolvableNames(); !names.empty()) {
         addUnresolvable(boundary, *boundary.boundary(), names, surfaceNames());
     }
     addOverlaps(FindingKind::OverlappingBoundaries, boundary, boundary.overlappingBoundaries(), "faceSides");
     addState(boundary, *boundary.boundary());
+    return std::exchange(m_findings, {});
 }
 
-void Finder::look(const Interface& interface)
+std::vector<Finding> StateExaminer::about(const Interface& interface)
 {
-    m_first = m_findings.size();
     addState(interface, *interface.interface());
+    return std::exchange(m_findings, {});
 }
 
 template <class R, class Entity>
-void Finder::addState(const R& region, const Entity& entity)
+void StateExaminer::addState(const R& region, const Entity& entity)
 {
     const State state = region.state();
     if (state == State::Valid) {
         return;
     }
     const FindingKind kind = kindOf(state, region.topologyType());
-    const bool isKnown = std::any_of(m_findings.begin() + static_cast<std::ptrdiff_t>(m_first), m_findings.end(),
+    const bool isKnown = std::any_of(m_findings.begin(), m_findings.end(),
                                      [kind](const Finding& finding) { return finding.kind == kind; });
     if (!isKnown) {
         add(kind, region, gtm::bundled::explain(entity), {});
@@ -169,7 +158,7 @@ void Finder::addState(const R& region, const Entity& entity)
 }
 
 template <class R>
-void Finder::add(FindingKind kind, const R& region, const std::string& sentence, Details details)
+void StateExaminer::add(FindingKind kind, const R& region, const std::string& sentence, Details details)
 {
     const Finding::Subject subject = subjectOf(region);
     m_findings.push_back(
@@ -178,8 +167,8 @@ void Finder::add(FindingKind kind, const R& region, const std::string& sentence,
 
 /// Each search for a near name walks all names, so there is a limit to their number.
 template <class R, class Entity>
-void Finder::addUnresolvable(const R& region, const Entity& entity, const std::vector<std::string>& names,
-                             const std::vector<std::string>& known)
+void StateExaminer::addUnresolvable(const R& region, const Entity& entity, const std::vector<std::string>& names,
+                                    const std::vector<std::string>& known)
 {
     constexpr std::size_t most = 100;
     const bool isSearched = m_noOfSearches < most;
@@ -201,8 +190,12 @@ void Finder::addUnresolvable(const R& region, const Entity& entity, const std::v
 }
 
 template <class R>
-void Finder::addOverlaps(FindingKind kind, const R& region, const std::vector<R*>& others, const std::string& what)
+void StateExaminer::addOverlaps(FindingKind kind, const R& region, const std::vector<R*>& others,
+                                const std::string& what)
 {
+    if (others.empty()) {
+        return; // as nearly always
+    }
     Details details;
     std::vector<std::string>& regions = details[what];
     for (const R* other : others) {
@@ -222,7 +215,7 @@ void Finder::addOverlaps(FindingKind kind, const R& region, const std::vector<R*
     add(kind, region, sentence, std::move(details));
 }
 
-const std::vector<std::string>& Finder::bodyNames()
+const std::vector<std::string>& StateExaminer::bodyNames()
 {
     if (m_bodyNames.empty()) {
         m_bodyNames = idsOf(m_model.parts());
@@ -232,7 +225,7 @@ const std::vector<std::string>& Finder::bodyNames()
     return m_bodyNames;
 }
 
-const std::vector<std::string>& Finder::surfaceNames()
+const std::vector<std::string>& StateExaminer::surfaceNames()
 {
     if (m_surfaceNames.empty()) {
         m_surfaceNames = idsOf(m_model.faces());
@@ -245,9 +238,9 @@ const std::vector<std::string>& Finder::surfaceNames()
 
 } // namespace
 
-std::vector<Finding> findByState(const Listed& setUp, const gtm::bundled::LocationModel& model)
+std::unique_ptr<Examiner> examinerOfStates(const gtm::bundled::LocationModel& model)
 {
-    return Finder(setUp, model).find();
+    return std::make_unique<StateExaminer>(model);
 }
 
 } // namespace physics::apps
