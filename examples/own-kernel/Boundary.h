@@ -13,6 +13,7 @@ namespace own {
 
 class Interior;
 
+/// Owned by its interior.
 class Boundary final : public gtm::Boundary {
 public:
     /// Without a place it is the default boundary.

@@ -9,6 +9,7 @@ namespace own {
 
 class WorkingCopy;
 
+/// Owned by its working copy; its boundaries are not its own.
 class Interface final : public gtm::Interface {
 public:
     Interface(WorkingCopy& copy, std::string name, Sides sides)

@@ -16,6 +16,7 @@ namespace own {
 
 class WorkingCopy;
 
+/// Owned by its working copy; it owns its boundaries, the default one too.
 class Interior final : public gtm::Interior {
 public:
     /// Without a place it is the default interior.

@@ -58,6 +58,7 @@ public:
     std::vector<gtm::ExternalFaceSide> zones;
 };
 
+/// Owns its regions.
 class Topology final : public gtm::Topology {
 public:
     explicit Topology(const kernel::Geometry& geometry);
@@ -75,7 +76,8 @@ private:
 
 class TopologyMap final : public gtm::TopologyMap {};
 
-/// The location model over one geometry, which is copied.
+/// The location model over one geometry. It keeps nothing of the kernel's; one over a large kernel would keep pointers
+/// to its solids and surfaces in the regions instead of copies of their names.
 class Model final : public gtm::Model {
 public:
     explicit Model(const kernel::Geometry& geometry);
