@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <set>
 
 using namespace physics;
@@ -62,6 +63,15 @@ Ids together(Ids first, const Ids& second)
 {
     first.insert(first.end(), second.begin(), second.end());
     return first;
+}
+
+/// Those of all that are not listed.
+Ids beside(const Ids& listed, const Ids& all)
+{
+    const std::set<Id> known(listed.begin(), listed.end());
+    Ids others;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(others), [&](Id id) { return known.count(id) == 0; });
+    return others;
 }
 
 /// Each id ever drawn is that of a living object of the reference, or finds nothing.
@@ -302,6 +312,10 @@ void Comparison::checkLists() const
     agree("the list of volumes", idsOf(m_physics.volumes()), valuesOf(m_reference.volumesByName));
     agree("the list of boundaries", idsOf(m_physics.boundaries()), m_reference.listedBoundaries());
     agree("the list of interfaces", idsOf(m_physics.interfaces()), valuesOf(m_reference.interfacesByName));
+    const Ids unlisted = together(together(beside(valuesOf(m_reference.volumesByName), keysOf(m_reference.volumes)),
+                                           beside(m_reference.listedBoundaries(), keysOf(m_reference.boundaries))),
+                                  beside(valuesOf(m_reference.interfacesByName), keysOf(m_reference.interfaces)));
+    agree("the list of what is in no list", idsOf(m_physics.unlistedRegions()), unlisted);
     agree("the default volume", idOf(m_physics.defaultVolume()), m_reference.defaultVolume);
     Ids settings;
     for (const auto& [id, model] : m_reference.models)

@@ -7,6 +7,7 @@
 #include "physics/Model.h"
 #include "physics/Settings.h"
 #include "physics/ThreadBundle.h"
+#include "physics/TypeNames.h"
 #include "physics/Volume.h"
 #include "tests/physics/Comparison.h"
 
@@ -14,6 +15,7 @@
 #include <iterator>
 #include <ostream>
 #include <set>
+#include <sstream>
 #include <utility>
 
 using namespace physics;
@@ -205,6 +207,7 @@ const std::vector<History::Operation>& History::operations()
         {"maskPart", 1, &History::maskPart},
         {"removeRegions", 1, &History::removeRegions},
         {"refuseNothingAndForeign", 2, &History::refuseNothingAndForeign},
+        {"saveAndRestore", 4, &History::saveAndRestore},
         {"clear", 1, &History::clear},
     };
     return all;
@@ -962,6 +965,66 @@ void History::refuseNothingAndForeign(const Step& step)
         agree("the settings of a foreign patch", idOf(own->settings(foreign, SettingsType::VolumeSettings)), 0);
         agree("the settings of no patch", idOf(own->settings(nullptr, SettingsType(3))), 0);
     }
+}
+
+std::string History::keptOf(const Physics& physics) const
+{
+    std::ostringstream text;
+    const auto list = [&text](const auto& regions) {
+        for (const gtm::Region* region : regions)
+            text << ' ' << region->id();
+        text << '\n';
+    };
+    for (const Model* model : physics.models()) {
+        text << "model " << model->id() << '\n';
+        model->dumpDomains(text, "  ");
+    }
+    for (const auto& [id, record] : m_reference.volumes) {
+        const Volume* volume = physics.findVolumeById(id);
+        text << "volume " << idOf(volume) << ' ' << volume->name() << ' ' << displayName(volume->type()) << ' '
+             << idOf(volume->model()) << ' ' << volume->activationGroup() << ' ' << volume->isDefaultVolume() << ' '
+             << idOf(volume->defaultBoundary()) << " on";
+        list(volume->bodies());
+    }
+    for (const auto& [id, record] : m_reference.boundaries) {
+        const Boundary* boundary = physics.findBoundaryById(id);
+        text << "boundary " << idOf(boundary) << ' ' << boundary->fullName() << ' ' << displayName(boundary->type())
+             << ' ' << displayName(boundary->shellType()) << ' ' << idOf(boundary->shellModel()) << ' '
+             << idOf(boundary->volume()) << ' ' << boundary->tags().size() << " patches";
+        for (const BoundaryPatch* patch : boundary->patches())
+            text << ' ' << patch->id() << ' ' << patch->name() << ',';
+        text << " on";
+        list(boundary->faceUses());
+    }
+    for (const auto& [id, record] : m_reference.interfaces) {
+        const Interface* interface = physics.findInterfaceById(id);
+        text << "interface " << idOf(interface) << ' ' << interface->name() << ' ' << displayName(interface->type())
+             << ' ' << displayName(interface->periodicity()) << ' ' << displayName(interface->meshConnectivity()) << ' '
+             << interface->isMapped() << interface->isStatic() << interface->isMeshValid() << ' '
+             << idOf(interface->model()) << ' ' << idOf(interface->boundary(Side::First)) << ' '
+             << idOf(interface->boundary(Side::Second)) << '\n';
+    }
+    for (const Settings* settings : physics.settings()) {
+        text << "settings " << settings->id() << ' ' << displayName(settings->type()) << ' ' << idOf(settings->model())
+             << ' ' << settings->name() << '\n';
+        for (const ThreadBundle* bundle : settings->threadBundles())
+            bundle->dump(text, "  ");
+    }
+    return text.str();
+}
+
+/// The copy must hold everything, also what equal names keep out of the lists, and its text must lead to itself. It
+/// stays until the next one begins, because its end may draw ids, which restoring takes back.
+void History::saveAndRestore(const Step&)
+{
+    const std::string text = m_physics->serialise();
+    m_copy = std::make_unique<Physics>(m_model->model(), false);
+    agree("what is against the saved text", m_copy->checkSerialised(text), std::vector<std::string>());
+    agree("the restoring", m_copy->restore(text), true);
+    agree("what was restored", keptOf(*m_copy), keptOf(*m_physics));
+    const std::string again = m_copy->serialise();
+    agree("the second restoring", m_copy->restore(again), true);
+    agree("the text of what was restored twice", m_copy->serialise(), again);
 }
 
 void History::clear(const Step&)

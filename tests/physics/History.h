@@ -97,6 +97,7 @@ private:
     void maskPart(const Step& step);
     void removeRegions(const Step& step);
     void refuseNothingAndForeign(const Step& step);
+    void saveAndRestore(const Step& step);
     void clear(const Step& step);
 
     physics::Model* model(reference::Id id) const;
@@ -114,11 +115,15 @@ private:
     void interfaceWasMade(physics::Interface* made, reference::Id id);
     void forgetEnded();
 
+    /// What a saved text keeps of the living objects, by id.
+    std::string keptOf(const physics::Physics& physics) const;
+
     struct Stranger;
 
     std::unique_ptr<contract::ContractModel> m_model;
     std::unique_ptr<Stranger> m_stranger;
     std::unique_ptr<physics::Physics> m_physics;
+    std::unique_ptr<physics::Physics> m_copy; // restored from the text of the other
     reference::Counters m_before;
     reference::SetUp m_reference;
     std::map<reference::Id, physics::Interface*> m_interfaces; // living, to know them when they have ended
