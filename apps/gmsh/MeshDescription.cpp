@@ -2,8 +2,10 @@
 
 #include "importers/RegionIds.h"
 #include "locationmodel/TopologyBuilder.h"
+#include "support/InWords.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 namespace physics::apps {
@@ -13,6 +15,29 @@ using gtm::bundled::RegionIds;
 using gtm::bundled::TopologyBuilder;
 using Entity = MeshDescription::Entity;
 using Surface = MeshDescription::Surface;
+
+/// How an affine transformation maps, from its matrix.
+std::string inWords(const std::vector<double>& matrix)
+{
+    using Row = std::array<double, 3>;
+    if (matrix.size() != 16) {
+        return "a transformation that it does not tell";
+    }
+    std::array<Row, 3> turning{};
+    Row translation{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            turning[row][column] = matrix[4 * row + column];
+        }
+        translation[row] = matrix[4 * row + 3];
+    }
+    const std::string inTheEnd = "the translation " + gtm::support::inWords(translation);
+    if (turning == std::array<Row, 3>{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}) {
+        return inTheEnd;
+    }
+    return "the matrix with the rows " + gtm::support::inWords(turning[0]) + ", " + gtm::support::inWords(turning[1]) +
+           ", " + gtm::support::inWords(turning[2]) + " and then " + inTheEnd;
+}
 
 class Builder {
 public:
@@ -131,9 +156,8 @@ void Builder::notePeriodic(const MeshDescription::Periodic& periodic)
     const auto master = m_faces.find(periodic.master);
     const auto image = m_faces.find(periodic.surface);
     if (master != m_faces.end() && image != m_faces.end()) {
-        note("The faces \"" + master->second + "\" and \"" + image->second + "\" are periodic by " +
-             (periodic.isTranslation ? "the translation (" + periodic.transform + ")" : "a transformation") +
-             " in the file; make an interface of them.");
+        note("The file maps the face \"" + master->second + "\" onto \"" + image->second + "\" by " +
+             inWords(periodic.matrix) + "; only a periodic interface of a case can say so.");
     }
 }
 

@@ -35,11 +35,11 @@ struct MeshDescription {
         std::size_t noOfFaces = 0;
     };
 
+    /// The master maps onto the surface.
     struct Periodic {
         int surface = 0;
         int master = 0;
-        bool isTranslation = false;
-        std::string transform; ///< "0, 1, 0" of a translation
+        std::vector<double> matrix; ///< of four rows; empty when the file does not tell it
     };
 
     std::vector<Entity> volumes;

@@ -7,8 +7,6 @@
 #include <gmsh.h>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdlib>
 #include <sstream>
 #include <string_view>
@@ -138,13 +136,6 @@ std::map<int, std::vector<MeshDescription::Use>> usesInEntities(const std::vecto
     return uses;
 }
 
-std::string textOf(double value)
-{
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::general, 9);
-    return {text.begin(), end.ptr};
-}
-
 std::vector<MeshDescription::Periodic> periodicsOf(const std::vector<int>& surfaces)
 {
     std::vector<MeshDescription::Periodic> periodics;
@@ -154,17 +145,9 @@ std::vector<MeshDescription::Periodic> periodicsOf(const std::vector<int>& surfa
         std::vector<std::size_t> masterNodes;
         std::vector<double> matrix;
         gmsh::model::mesh::getPeriodicNodes(2, surface, master, nodes, masterNodes, matrix);
-        if (master == surface) {
-            continue;
+        if (master != surface) {
+            periodics.push_back({surface, master, matrix});
         }
-        constexpr std::array<double, 16> identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-        MeshDescription::Periodic periodic{surface, master, matrix.size() == identity.size(), ""};
-        for (std::size_t i = 0; i < matrix.size() && periodic.isTranslation; ++i) {
-            const bool isOffset = i % 4 == 3 && i < 12;
-            periodic.isTranslation = isOffset || matrix[i] == identity[i];
-            periodic.transform += isOffset ? (periodic.transform.empty() ? "" : ", ") + textOf(matrix[i]) : "";
-        }
-        periodics.push_back(periodic);
     }
     return periodics;
 }

@@ -6,6 +6,7 @@
 #include "importers/cgns/ZoneNumbers.h"
 #include "importers/cgns/ZoneSurface.h"
 #include "support/InQuotes.h"
+#include "support/InWords.h"
 
 #include <array>
 #include <cmath>
@@ -18,6 +19,7 @@ namespace gtm::bundled {
 namespace {
 
 using support::inQuotes;
+using support::inWords;
 using Patch = CgnsDescription::Patch;
 using Selection = CgnsDescription::Selection;
 using Zone = CgnsDescription::Zone;
@@ -32,6 +34,18 @@ bool areOpposite(const std::array<double, 3>& one, const std::array<double, 3>& 
         size += std::abs(one[i]) + std::abs(other[i]);
     }
     return difference <= tolerance * size;
+}
+
+/// "the translation (0, 0, 1)".
+std::string inWords(const CgnsDescription::Periodicity& how)
+{
+    constexpr std::array<double, 3> zero = {};
+    const std::string translation = "the translation " + inWords(how.translation);
+    if (how.angle == zero) {
+        return translation;
+    }
+    return "the angles " + inWords(how.angle) + " in radians about axes through " + inWords(how.centre) +
+           (how.translation == zero ? "" : " and then " + translation);
 }
 
 class ModelMaker {
@@ -256,11 +270,13 @@ void ModelMaker::addPeriodic(PatchPlace place, PatchPlace answer, const std::str
     const bool turned = !patchAt(place).periodicity;
     const CgnsDescription::Periodicity& how = *patchAt(turned ? answer : place).periodicity;
     const bool rotates = how.angle != std::array<double, 3>{};
-    m_result.periodics.push_back({patchAt(place).name, turned ? otherId : id, turned ? id : otherId,
+    const std::string& first = turned ? otherId : id;
+    const std::string& second = turned ? id : otherId;
+    m_result.periodics.push_back({patchAt(place).name, first, second,
                                   rotates ? CgnsPeriodic::Kind::Rotation : CgnsPeriodic::Kind::Translation, how.centre,
                                   how.angle, how.translation});
-    note("The faces " + inQuotes(id) + " and " + inQuotes(otherId) + " are periodic by " +
-         (rotates ? "rotation" : "translation") + " in the file; make an interface of them.");
+    note("The file maps the face " + inQuotes(first) + " onto " + inQuotes(second) + " by " + inWords(how) +
+         "; only a periodic interface of a case can say so.");
     doubtPeriodicity(place, answer);
 }
 

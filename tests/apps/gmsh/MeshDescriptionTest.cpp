@@ -67,17 +67,26 @@ TEST(MeshDescription, whatHasNoPlaceIsTold)
     mesh.surfaces = {surface(3, {"inlet", "ends"}, {{1, true}}), surface(4, {"baffle"}, {}),
                      surface(5, {"inlet"}, {{1, true}})};
     mesh.uncovered = {{{1}, 12}};
-    mesh.periodics = {{5, 3, true, "0, 1, 0"}, {5, 4, true, "0, 1, 0"}};
+    mesh.periodics = {{5, 3, {1, 0, 0, 0, 0, 1, 0, 1, 0, 0, 1, 0, 0, 0, 0, 1}},
+                      {3, 5, {0, -1, 0, 2.5, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}},
+                      {3, 5, {}},
+                      {5, 4, {}}};
 
-    EXPECT_THAT(buildModel(mesh).notes,
-                ElementsAre("Body \"air\" is also in the group \"all\"; that name is left out.",
-                            "Face \"air/inlet\" is also in the group \"ends\"; that name is left out.",
-                            "Surface 4 (\"baffle\") bounds no volume and is left out.",
-                            "Face \"air/inlet\" is called \"air/inlet-2\" here, because \"air/inlet\" is taken.",
-                            "Body \"air\": 12 element faces of its surface are on no surface of the file; they are the "
-                            "face \"air/uncovered\".",
-                            "The faces \"air/inlet\" and \"air/inlet-2\" are periodic by the translation (0, 1, 0) in "
-                            "the file; make an interface of them."));
+    EXPECT_THAT(
+        buildModel(mesh).notes,
+        ElementsAre("Body \"air\" is also in the group \"all\"; that name is left out.",
+                    "Face \"air/inlet\" is also in the group \"ends\"; that name is left out.",
+                    "Surface 4 (\"baffle\") bounds no volume and is left out.",
+                    "Face \"air/inlet\" is called \"air/inlet-2\" here, because \"air/inlet\" is taken.",
+                    "Body \"air\": 12 element faces of its surface are on no surface of the file; they are the "
+                    "face \"air/uncovered\".",
+                    "The file maps the face \"air/inlet\" onto \"air/inlet-2\" by the translation (0, 1, 0); "
+                    "only a periodic interface of a case can say so.",
+                    "The file maps the face \"air/inlet-2\" onto \"air/inlet\" by the matrix with the rows "
+                    "(0, -1, 0), (1, 0, 0), (0, 0, 1) and then the translation (2.5, 0, 0); only a periodic "
+                    "interface of a case can say so.",
+                    "The file maps the face \"air/inlet-2\" onto \"air/inlet\" by a transformation that it does "
+                    "not tell; only a periodic interface of a case can say so."));
 }
 
 TEST(MeshDescription, threeVolumesAtOneSurfaceAreRefused)

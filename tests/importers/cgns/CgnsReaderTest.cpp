@@ -127,8 +127,8 @@ TEST(CgnsReader, bothBackEndsGiveTheSame)
         hdf5.notes,
         (Strings{"Nodes that say nothing about bodies and faces are left out: 1 GeometryReference_t, 1 "
                  "UserDefinedData_t.",
-                 "The faces \"Zone1/per_lo\" and \"Zone1/per_hi\" are periodic by translation in the file; make "
-                 "an interface of them.",
+                 "The file maps the face \"Zone1/per_lo\" onto \"Zone1/per_hi\" by the translation (0, 1, 0); only a "
+                 "periodic interface of a case can say so.",
                  "Zone \"Zone1\": 32 of the 96 cell faces of its surface are in no condition and no connectivity; "
                  "they are the face \"Zone1/uncovered\".",
                  "Zone \"Zone2\": 64 of the 96 cell faces of its surface are in no condition and no connectivity; "
@@ -238,12 +238,14 @@ struct Angle {
     std::string unit;
     double stored;
     double radians;
+    std::string inWords;
 };
 
 class AngleUnit : public testing::TestWithParam<Angle> {};
 
 INSTANTIATE_TEST_SUITE_P(CgnsReader, AngleUnit,
-                         testing::Values(Angle{"Degree", 180, 3.14159265358979323846}, Angle{"Radian", 0.5, 0.5}));
+                         testing::Values(Angle{"Degree", 180, 3.14159265358979323846, "3.14159265"},
+                                         Angle{"Radian", 0.5, 0.5, "0.5"}));
 
 TEST_P(AngleUnit, ofTheBaseHoldsForPeriodicConnectivities)
 {
@@ -275,8 +277,10 @@ TEST_P(AngleUnit, ofTheBaseHoldsForPeriodicConnectivities)
     EXPECT_EQ(pair.rotationCentre, (std::array<double, 3>{1, 2, 3}));
     EXPECT_DOUBLE_EQ(pair.rotationAngle[2], GetParam().radians);
     EXPECT_EQ(pair.translation, (std::array<double, 3>{0, 0, 7}));
-    EXPECT_EQ(result.notes.at(0), "The faces \"sector/low\" and \"sector/high\" are periodic by rotation in the file; "
-                                  "make an interface of them.");
+    EXPECT_EQ(result.notes.at(0), "The file maps the face \"sector/low\" onto \"sector/high\" by the angles (0, 0, " +
+                                      GetParam().inWords +
+                                      ") in radians about axes through (1, 2, 3) and then the translation (0, 0, 7); "
+                                      "only a periodic interface of a case can say so.");
 }
 
 TEST(CgnsReader, elementsAndVerticesOfAnUnstructuredZoneStandForCellFaces)
