@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -44,12 +47,14 @@ public:
     void restOfLine(std::string_view /*label*/, std::string_view value)
     {
         separate();
-        m_text += value;
+        makeRoom(value.size());
+        m_next = std::copy(value.begin(), value.end(), m_next);
     }
 
     void endLine()
     {
-        m_text += '\n';
+        makeRoom(1);
+        *m_next++ = '\n';
         m_isLineBegun = false;
     }
 
@@ -90,19 +95,41 @@ public:
 
     void begin(const std::size_t& /*position*/) {}
 
-    std::string take() { return std::move(m_text); }
+    std::string take() const { return {m_begin.get(), m_next}; }
 
 private:
+    static constexpr std::size_t longestNumber = 20; // characters
+
     void separate()
     {
+        makeRoom(1);
         if (m_isLineBegun)
-            m_text += ' ';
+            *m_next++ = ' ';
         m_isLineBegun = true;
     }
 
-    void appendNumber(std::int64_t value);
+    /// Most numbers of a text have one digit.
+    void appendNumber(std::int64_t value)
+    {
+        makeRoom(longestNumber);
+        if (value >= 0 && value <= 9)
+            *m_next++ = static_cast<char>('0' + value);
+        else
+            m_next = std::to_chars(m_next, m_end, value).ptr;
+    }
 
-    std::string m_text;
+    void makeRoom(std::size_t noOfCharacters)
+    {
+        if (static_cast<std::size_t>(m_end - m_next) < noOfCharacters)
+            grow(noOfCharacters);
+    }
+
+    void grow(std::size_t noOfCharacters);
+
+    // Plain memory: a string would look at its size and put an end to itself with each field.
+    std::unique_ptr<char[]> m_begin;
+    char* m_next = nullptr;
+    char* m_end = nullptr;
     bool m_isLineBegun = false;
 };
 
