@@ -85,8 +85,8 @@ std::vector<Face*> InteriorEntity::ownInternalFaces() const
 {
     std::vector<ModelFace*> faces;
     for (const ModelBody* body : ownBodies()) {
-        for (const ModelFaceUse* faceUse : body->faceUses) {
-            if (faceUse == faceUse->ownFace().firstFaceUse() && !isOutward(*faceUse)) {
+        for (const ModelFaceUse* faceUse : body->firstSides) {
+            if (!isOutward(*faceUse)) {
                 faces.push_back(&faceUse->ownFace());
             }
         }

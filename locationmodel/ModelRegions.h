@@ -57,6 +57,7 @@ public:
 
     ModelPart* const part; ///< null outside every part
     std::vector<ModelFaceUse*> faceUses;
+    std::vector<ModelFaceUse*> firstSides; ///< those that have a partner and are the first face use of their face
     std::vector<ExternalBody> zones;
     BodyFacts facts;
 };

@@ -37,6 +37,8 @@ ModelFaceUse& ModelTopology::addFaceUse(const std::string& id, ModelFace& face, 
         face.setFaceUses(&use, nullptr);
     } else {
         face.setFaceUses(face.firstFaceUse(), &use);
+        auto* first = static_cast<ModelFaceUse*>(face.firstFaceUse());
+        first->ownBody().firstSides.push_back(first);
     }
     body.faceUses.push_back(&use);
     return use;

@@ -11,6 +11,8 @@
 
 #include "gtm/LocationModel.h"
 
+#include <algorithm>
+#include <set>
 #include <unordered_set>
 
 namespace physics {
@@ -114,10 +116,19 @@ bool Boundary::isAllowedInterfaceType(InterfaceType type) const
 std::vector<ShellType> Boundary::allowedShellTypes() const { return physics()->allowedShellTypes(m_type); }
 bool Boundary::isAllowedShellType(ShellType type) const { return physics()->isAllowedShellType(m_type, type); }
 
-void Boundary::addTag(BoundaryTag tag) { m_tags.insert(tag); }
-void Boundary::removeTag(BoundaryTag tag) { m_tags.erase(tag); }
-bool Boundary::hasTag(BoundaryTag tag) const { return m_tags.count(tag) > 0; }
-std::vector<BoundaryTag> Boundary::tags() const { return {m_tags.begin(), m_tags.end()}; }
+void Boundary::addTag(BoundaryTag tag)
+{
+    if (!hasTag(tag))
+        m_tags.insert(std::upper_bound(m_tags.begin(), m_tags.end(), tag), tag);
+}
+
+void Boundary::removeTag(BoundaryTag tag)
+{
+    m_tags.erase(std::remove(m_tags.begin(), m_tags.end(), tag), m_tags.end());
+}
+
+bool Boundary::hasTag(BoundaryTag tag) const { return std::binary_search(m_tags.begin(), m_tags.end(), tag); }
+std::vector<BoundaryTag> Boundary::tags() const { return m_tags; }
 
 BoundaryPatch* Boundary::addToInterface(Interface* interface)
 {

@@ -4,7 +4,6 @@
 
 #include <iosfwd>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -218,11 +217,11 @@ private:
     const int m_id;
     BoundaryType m_type;
     ShellType m_shellType = ShellType::Unset;
+    std::vector<BoundaryTag> m_tags; // ascending
     Link<Model> m_shellModel;
     gtm::Boundary* m_boundary;
     Volume* m_volume;
     const bool m_isDefault;
-    std::set<BoundaryTag> m_tags;
     // Last, so that patches end while the rest of the boundary still answers.
     std::unique_ptr<BoundaryPatch> m_ownPatch;
     Hashed<const Interface*>::With<std::unique_ptr<BoundaryPatch>> m_interfacePatches;

@@ -120,7 +120,7 @@ Boundary* Boundary::restore(const PhysicsSerialiser& serialiser, const BoundaryR
     if (boundary->m_shellModel)
         boundary->m_shellModel->m_boundaries.insert(boundary);
     for (const int tag : record.tags)
-        boundary->m_tags.insert(BoundaryTag(tag));
+        boundary->addTag(BoundaryTag(tag));
     volume->adopt(boundary);
     serialiser.physics()->registry().add(boundary);
     return boundary;
