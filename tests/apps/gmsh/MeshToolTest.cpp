@@ -4,6 +4,7 @@
 #include "apps/Verb.h"
 #include "locationmodel/LocationModel.h"
 #include "locationmodel/TopologyFile.h"
+#include "physics/Physics.h"
 #include "tests/apps/ToolRun.h"
 #include "tests/golden/Golden.h"
 
@@ -263,6 +264,16 @@ TEST(MeshTool, aRealFileIsListedAsItWasRead)
         EXPECT_TRUE(golden::matches(ToolRun({"new", topology.path(), "--force", "-o", proposal.path()}).out,
                                     golden + "-new.txt"));
         EXPECT_EQ(ToolRun({"check", "--warnings=error", proposal.path()}).code, 0);
+        EXPECT_EQ(ToolRun({"build", proposal.path()}).code, 0);
+        EXPECT_EQ(ToolRun({"report", proposal.path()}).code, 0);
+
+        const TemporaryFile saved("saved", "");
+        EXPECT_EQ(ToolRun({"save", proposal.path(), "-o", saved.path()}).code, 0);
+        EXPECT_EQ(ToolRun({"restore", topology.path(), saved.path()}).code, 0);
+        const auto model = gtm::bundled::readTopologyText(run.out, "t");
+        physics::Physics restored(model.get(), true);
+        ASSERT_TRUE(restored.restore(contentOf(saved.path())));
+        EXPECT_EQ(restored.serialise(), contentOf(saved.path()));
     }
 }
 

@@ -81,6 +81,7 @@ TEST_P(BlocksOf, areWrittenByEveryObject)
 TEST_P(ReportOf, changesNothing)
 {
     const setups::Made made = GetParam()();
+    const std::string saved = made->physics->serialise();
     const std::vector<int> ids = idsDrawn();
     const std::size_t noOfSettings = made->physics->settings().size();
     const std::vector<std::string> calls = made->world.calls();
@@ -90,6 +91,7 @@ TEST_P(ReportOf, changesNothing)
     EXPECT_EQ(idsDrawn(), ids);
     EXPECT_EQ(made->physics->settings().size(), noOfSettings);
     EXPECT_EQ(made->world.calls(), calls);
+    EXPECT_EQ(made->physics->serialise(), saved);
 }
 
 TEST_P(ReportOf, isTheSameTwice)
