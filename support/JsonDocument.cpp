@@ -128,8 +128,12 @@ private:
 JsonDocument::JsonDocument(std::string text, std::string name) : m_text(std::move(text)), m_name(std::move(name))
 {
     const std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (m_text.compare(0, byteOrderMark.size(), byteOrderMark) == 0) {
+    const auto isMarked = [&] { return m_text.compare(0, byteOrderMark.size(), byteOrderMark) == 0; };
+    if (isMarked()) {
         m_text.erase(0, byteOrderMark.size());
+    }
+    if (isMarked()) { // which the parser would skip without a word, and places would be wrong
+        throw JsonError(prefix(0) + "this is not valid JSON: it begins with more than one byte order mark; leave one.");
     }
     Parser parser(*this);
     nlohmann::json::sax_parse(m_text, &parser);

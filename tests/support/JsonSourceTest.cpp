@@ -59,6 +59,12 @@ TEST(JsonSource, aByteOrderMarkIsSkippedAndDoesNotShiftTheColumn)
     EXPECT_EQ(refusalOf("\xEF\xBB\xBF[1,]"), refusalOf("[1,]"));
 }
 
+TEST(JsonSource, aSecondByteOrderMarkIsRefused)
+{
+    EXPECT_EQ(refusalOf("\xEF\xBB\xBF\xEF\xBB\xBF{\"id\": 1}"),
+              "a.json:1:1: this is not valid JSON: it begins with more than one byte order mark; leave one.");
+}
+
 TEST(JsonSource, aFileIsReadUnderItsPath)
 {
     const std::filesystem::path file = std::filesystem::path(::testing::TempDir()) / "aFileIsReadUnderItsPath.json";
