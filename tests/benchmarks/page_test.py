@@ -55,6 +55,15 @@ class PageTest(unittest.TestCase):
         self.assertAlmostEqual(page.per_object({"time": 5e6, "perObject": 2e-6}, "1000"), 2)
         self.assertAlmostEqual(page.per_object({"time": 5e6}, "1000"), 5)
 
+    def test_a_report_has_its_speed_and_what_it_costs_above_writing(self):
+        rows = {"all": {"1000": {"time": 2e6, "bytes_per_second": 250e6, "toWriting": 80.5},
+                        "10000": {"time": 30e6, "bytes_per_second": 125e6, "toWriting": 40}}}
+
+        self.assertEqual(page.report_table(result(rows)).splitlines()[2:],
+                         ["| all | 2.00 | 3.00 | 1.50 |",
+                          "| all: megabytes a second | 250 | 125 |  |",
+                          "| all: times writing the same bytes | 80.5 | 40.0 |  |"])
+
     def test_growth_divides_the_largest_by_the_smallest_case(self):
         table = page.growth_table(result({"one/list/cold": {"1000": {"time": 2e6}, "10000": {"time": 30e6}}}))
 
