@@ -87,12 +87,12 @@ class PageTest(unittest.TestCase):
         self.assertEqual(table.splitlines()[2:], ["| 1 build | 2.00 |", "| 2 clear | 1.00 |", "| all | 3.00 |"])
 
     def test_only_what_was_measured_is_written_anew(self):
-        text = ("Prose.\n<!-- measured: report -->\nold\n<!-- end -->\nMore prose.\n"
+        text = ("Prose.\n<!-- measured: validation -->\nold\n<!-- end -->\nMore prose.\n"
                 "<!-- measured: chain -->\nkept\n<!-- end -->\n")
-        results = {"report-benchmark": result({"many": {"1000": {"time": 1e6}}})}
+        results = {"validation-benchmark": result({"many": {"1000": {"time": 1e6}}})}
 
         self.assertEqual(page.updated(text, results), """Prose.
-<!-- measured: report -->
+<!-- measured: validation -->
 
 |  | 1 000 | growth |
 | --- | --- | --- |
