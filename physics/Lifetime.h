@@ -231,10 +231,23 @@ public:
     }
 
     /// Forgets the key, whichever object it names.
-    void erase(const Key& key) { m_entries.erase(key); }
+    void erase(const Key& key)
+    {
+        const bool isNext = m_next != m_entries.end() && m_next->first == key;
+        const auto entry = isNext ? m_next : m_entries.find(key);
+        if (entry == m_entries.end())
+            return;
+        const auto next = m_entries.erase(entry);
+        if constexpr (Map::isOrdered)
+            m_next = next;
+    }
 
     /// Forgets every key; no object ends.
-    void clear() { m_entries.clear(); }
+    void clear()
+    {
+        m_entries.clear();
+        m_next = m_entries.end();
+    }
 
     /// The objects in the order of the map.
     std::vector<T*> objects() const
@@ -271,7 +284,7 @@ private:
         }
 
     private:
-        void targetEnded() override { m_index->m_entries.erase(m_index->m_entries.find(*m_key)); }
+        void targetEnded() override { m_index->erase(*m_key); }
 
         BasicIndex* m_index = nullptr;
         const Key* m_key = nullptr;
@@ -279,22 +292,25 @@ private:
 
     using Entries = typename Map::template With<Entry>;
     Entries m_entries;
+    typename Entries::iterator m_next = m_entries.end(); // behind what was erased last: often it is the next to go
 };
 
 /// Selects an ordered map, for keys whose order is the order of a list.
 template <class K>
 struct Ordered {
-    using key_type = K; ///< of the map
+    using key_type = K;                     ///< of the map
+    static constexpr bool isOrdered = true; ///< and its iterators stay good whatever else comes and goes
 
     /// The map for entries of one kind.
     template <class Entry>
     using With = std::map<K, Entry, std::less<K>, NodeAllocator<std::pair<const K, Entry>>>;
 };
 
-/// Selects a hashed map, for keys that are pointers: their order means nothing.
+/// Selects a hashed map, for keys whose order means nothing.
 template <class K>
 struct Hashed {
-    using key_type = K; ///< of the map
+    using key_type = K;                      ///< of the map
+    static constexpr bool isOrdered = false; ///< and its iterators are good until the next key comes
 
     /// The map for entries of one kind.
     template <class Entry>
@@ -304,6 +320,10 @@ struct Hashed {
 /// An index whose objects are listed in the order of the keys.
 template <class Key, class T>
 using Index = BasicIndex<Ordered<Key>, T>;
+
+/// An index that is only searched: its objects are listed in no particular order.
+template <class Key, class T>
+using HashedIndex = BasicIndex<Hashed<Key>, T>;
 
 /// An index by the address of another object. The key objects outlive their entries.
 template <class K, class T>

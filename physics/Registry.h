@@ -72,12 +72,12 @@ public:
     Index<std::string, Volume> volumesByName{nodes};
     Index<std::string, Interface> interfacesByName{nodes};
     Index<int, Model> models{nodes};
-    Index<int, Volume> volumes{nodes};
-    Index<int, Boundary> boundaries{nodes};
-    Index<int, Interface> interfaces{nodes};
-    Index<int, Settings> settings{nodes};
-    Index<int, ThreadBundle> bundlesByThreadId{nodes};
-    Index<int, ThreadBundle> bundlesByZoneId{nodes};
+    HashedIndex<int, Volume> volumes{nodes};
+    HashedIndex<int, Boundary> boundaries{nodes};
+    HashedIndex<int, Interface> interfaces{nodes};
+    HashedIndex<int, Settings> settings{nodes};
+    HashedIndex<int, ThreadBundle> bundlesByThreadId{nodes};
+    HashedIndex<int, ThreadBundle> bundlesByZoneId{nodes};
     PointerIndex<gtm::Boundary, Boundary> boundariesByLocation{nodes};
     Link<Volume> defaultVolume;
     ActivationGroups activationGroups;
