@@ -66,7 +66,7 @@ public:
     /// Ends every object but ended interfaces, which stay readable, drops the activation groups and unmasks
     /// the bodies of every part. Flags, type tables and the id counters stay: ids go on. All pointers to
     /// objects are dead afterwards, but those to interfaces. Should the location model throw, call it again:
-    /// what is left is still owned, but not found or listed any more.
+    /// until then what is left is found by nothing and listed by `unlistedRegions` alone.
     void clear();
 
     // ---- Creation. A null model stands for the primary model. Null when the location model refuses, and

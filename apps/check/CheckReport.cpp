@@ -4,6 +4,10 @@
 #include "apps/check/NameFindings.h"
 #include "apps/check/RuleFindings.h"
 #include "apps/check/StateFindings.h"
+#include "physics/Boundary.h"
+#include "physics/Interface.h"
+#include "physics/Physics.h"
+#include "physics/Volume.h"
 
 #include <algorithm>
 #include <memory>

@@ -1061,6 +1061,21 @@ TEST_F(FailingEndTest, aVolumeWhoseEndFailedCanEndAfterwards)
     expectThatAllCanEnd();
 }
 
+TEST_F(FailingEndTest, aClearThatWasBrokenOffLeavesNothingToBeFoundUntilTheNext)
+{
+    const int hotId = hot->id();
+    const int hotSideId = hotSide->id();
+    world.throwOn("destroy", 2); // after the interface
+    EXPECT_THROW(physics.clear(), std::runtime_error);
+
+    EXPECT_EQ(physics.volumes(), Volumes{});
+    EXPECT_EQ(physics.findVolumeById(hotId), nullptr);
+    EXPECT_EQ(physics.findBoundaryById(hotSideId), nullptr);
+    EXPECT_FALSE(physics.unlistedRegions().empty());
+    expectThatAllCanEnd();
+    EXPECT_TRUE(physics.unlistedRegions().empty());
+}
+
 TEST_F(FailingEndTest, aSetUpThatFailedAnywhereCanBeCleared)
 {
     const std::vector<std::string> operations = {
