@@ -4,6 +4,7 @@
 #include "gtm/Interface.h"
 #include "gtm/Interior.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -61,6 +62,27 @@ struct VirtualTopologyAnswers {
     bool hasNoDefaultInterior = false;
     std::optional<bool> isValid;
     std::optional<std::vector<gtm::Body*>> unusedBodies;
+};
+
+/// The answers of one entity: made when a test sets one, because most entities are left alone.
+template <class Answers>
+class SetAnswers {
+public:
+    const Answers& read() const
+    {
+        static const Answers none;
+        return m_answers ? *m_answers : none;
+    }
+    Answers& write()
+    {
+        if (!m_answers) {
+            m_answers = std::make_unique<Answers>();
+        }
+        return *m_answers;
+    }
+
+private:
+    std::unique_ptr<Answers> m_answers;
 };
 
 /// The answers of a living entity of this location model; they end with it.

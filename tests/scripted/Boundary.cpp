@@ -6,11 +6,11 @@
 
 namespace scripted {
 
-Boundary::Boundary(Interior& interior, std::size_t serial, std::string name, std::optional<Place> place)
-    : m_name(std::move(name)), m_interior(interior), m_serial(serial)
+Boundary::Boundary(Interior& interior, std::string name, std::optional<Place> place)
+    : m_name(std::move(name)), m_interior(interior)
 {
     if (place) {
-        m_location = std::make_unique<Location>(interior.copy().topology(), *std::move(place), [this] {
+        m_location.emplace(interior.copy().topology(), *std::move(place), [this] {
             const std::vector<gtm::FaceUse*> found = faceUses();
             return std::vector<gtm::Region*>(found.begin(), found.end());
         });
@@ -19,8 +19,8 @@ Boundary::Boundary(Interior& interior, std::size_t serial, std::string name, std
 
 void Boundary::endInterfaces()
 {
-    for (const auto& [serial, interface] : std::exchange(m_interfaces, {})) {
-        m_interior.copy().end(interface);
+    while (!m_interfaces.empty()) {
+        m_interior.copy().end(m_interfaces.front());
     }
 }
 
@@ -68,7 +68,7 @@ gtm::Boundary::State Boundary::judgedState() const
     return overlappingBoundaries().empty() ? State::Valid : State::Overlapping;
 }
 
-BoundaryAnswers& answersOf(gtm::Boundary* boundary) { return scriptedOf(boundary)->answers(); }
+BoundaryAnswers& answersOf(gtm::Boundary* boundary) { return scriptedOf(boundary)->answersToSet(); }
 
 } // namespace scripted
 
@@ -87,7 +87,7 @@ std::string Boundary::name() const
 std::string Boundary::rename(const std::string& name)
 {
     auto* self = scriptedOf(this);
-    self->owner().copy().called(self->subject(), "rename", name);
+    self->owner().copy().called(*self, "rename", name);
     self->m_name = self->owner().copy().nameFor(name);
     return self->answers().renameResult.value_or(self->m_name);
 }
@@ -186,28 +186,28 @@ Boundary::State Boundary::state() const
 Boundary::State Boundary::relocate(const std::string& location, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->owner().copy().called(self->subject(), "relocate", location, enforceRestrictions);
+    self->owner().copy().called(*self, "relocate", location, enforceRestrictions);
     return scripted::relocated(*self, scripted::Place(location), enforceRestrictions);
 }
 
 Boundary::State Boundary::relocate(const std::vector<Region*>& regions, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->owner().copy().called(self->subject(), "relocate", regions, enforceRestrictions);
+    self->owner().copy().called(*self, "relocate", regions, enforceRestrictions);
     return scripted::relocated(*self, scripted::Place(regions), enforceRestrictions);
 }
 
 bool Boundary::remove(const std::vector<Region*>& regions)
 {
     auto* self = scriptedOf(this);
-    self->owner().copy().called(self->subject(), "remove", regions);
+    self->owner().copy().called(*self, "remove", regions);
     return scripted::removed(*self, regions);
 }
 
 void Boundary::destroy()
 {
     auto* self = scriptedOf(this);
-    self->owner().copy().called(self->subject(), "destroy");
+    self->owner().copy().called(*self, "destroy");
     if (self->isDefaultBoundary()) {
         self->owner().m_isDefaultBoundaryActive = false;
     } else {

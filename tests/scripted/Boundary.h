@@ -5,8 +5,7 @@
 #include "tests/scripted/Location.h"
 
 #include <cstddef>
-#include <map>
-#include <memory>
+#include <list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,14 +18,14 @@ class Interior;
 class Boundary final : public gtm::Boundary {
 public:
     /// Without a place it is the default boundary of its interior.
-    Boundary(Interior& interior, std::size_t serial, std::string name, std::optional<Place> place);
+    Boundary(Interior& interior, std::string name, std::optional<Place> place);
     ~Boundary() = default;
 
     Interior& owner() const { return m_interior; }
-    std::size_t serial() const { return m_serial; }
-    Location* location() const { return m_location.get(); }
-    BoundaryAnswers& answers() { return m_answers; }
-    const BoundaryAnswers& answers() const { return m_answers; }
+    Location* location() { return m_location ? &*m_location : nullptr; }
+    const Location* location() const { return m_location ? &*m_location : nullptr; }
+    BoundaryAnswers& answersToSet() { return m_answers.write(); }
+    const BoundaryAnswers& answers() const { return m_answers.read(); }
 
     /// As messages of the record name it.
     std::string subject() const { return "boundary \"" + m_name + "\""; }
@@ -39,15 +38,15 @@ public:
     State placementState() const { return state(); }
 
     std::string m_name;
+    std::list<Boundary>::iterator m_self; // among the boundaries of its interior, unless it is the default one
 
-    /// The interfaces that use the boundary, by their serial.
-    std::map<std::size_t, Interface*> m_interfaces;
+    /// The interfaces that use the boundary, in the order in which they came to do so.
+    std::list<Interface*> m_interfaces;
 
 private:
     Interior& m_interior;
-    std::size_t m_serial;
-    std::unique_ptr<Location> m_location;
-    BoundaryAnswers m_answers;
+    std::optional<Location> m_location;
+    SetAnswers<BoundaryAnswers> m_answers;
 };
 
 inline Boundary* scriptedOf(gtm::Boundary* boundary) { return static_cast<Boundary*>(boundary); }

@@ -5,51 +5,73 @@
 
 namespace scripted {
 
-Interface::Interface(WorkingCopy& copy, std::size_t serial, std::string name, Sides sides)
-    : m_name(std::move(name)), m_copy(copy), m_serial(serial)
+Interface::Interface(WorkingCopy& copy, std::string name, const Sides& sides) : m_name(std::move(name)), m_copy(copy)
 {
-    join(std::move(sides));
+    join(sides);
 }
 
 Interface::~Interface() { leaveSides(); }
 
-void Interface::join(Sides sides)
+void Interface::join(const Sides& sides)
 {
     leaveSides();
-    m_sides = std::move(sides);
-    for (const auto* side : {&m_sides.first, &m_sides.second}) {
-        for (gtm::Boundary* boundary : *side) {
-            scriptedOf(boundary)->m_interfaces[m_serial] = this;
+    const auto use = [this](gtm::Boundary* boundary, bool isOnFirstSide, bool isOnSecondSide) {
+        std::list<Interface*>& interfaces = scriptedOf(boundary)->m_interfaces;
+        const auto place = interfaces.insert(interfaces.end(), this);
+        m_uses.push_back({scriptedOf(boundary), isOnFirstSide, isOnSecondSide, place});
+    };
+    m_uses.reserve(sides.first.size() + sides.second.size());
+    for (gtm::Boundary* boundary : sides.first) {
+        use(boundary, true, sides.second.contains(boundary));
+    }
+    for (gtm::Boundary* boundary : sides.second) {
+        if (!sides.first.contains(boundary)) {
+            use(boundary, false, true);
         }
     }
+}
+
+gtm::Interface::Sides Interface::sides() const
+{
+    Sides sides;
+    for (const Use& use : m_uses) {
+        if (use.isOnFirstSide) {
+            sides.first.insert(use.boundary);
+        }
+        if (use.isOnSecondSide) {
+            sides.second.insert(use.boundary);
+        }
+    }
+    return sides;
 }
 
 void Interface::leaveSides()
 {
-    for (const auto* side : {&m_sides.first, &m_sides.second}) {
-        for (gtm::Boundary* boundary : *side) {
-            scriptedOf(boundary)->m_interfaces.erase(m_serial);
-        }
+    for (const Use& use : m_uses) {
+        use.boundary->m_interfaces.erase(use.place);
     }
+    m_uses.clear();
 }
 
 gtm::Interface::State Interface::judgedState() const
 {
-    std::set<gtm::Boundary*> all = m_sides.first;
-    all.insert(m_sides.second.begin(), m_sides.second.end());
-    if (all.size() < m_sides.first.size() + m_sides.second.size()) {
-        return State::SameBoundary;
+    for (const Use& use : m_uses) {
+        if (use.isOnFirstSide && use.isOnSecondSide) {
+            return State::SameBoundary;
+        }
     }
-    for (const gtm::Boundary* boundary : all) {
-        const gtm::Boundary::State state = boundary->state();
+    for (const Use& use : m_uses) {
+        const gtm::Boundary::State state = use.boundary->state();
         if (state == gtm::Boundary::State::Overlapping || state == gtm::Boundary::State::Inconsistent) {
             return State::InconsistentBoundaries;
         }
     }
-    for (const auto* side : {&m_sides.first, &m_sides.second}) {
+    for (const bool isFirst : {true, false}) {
         std::set<gtm::Interior*> interiors;
-        for (const gtm::Boundary* boundary : *side) {
-            interiors.insert(boundary->interior());
+        for (const Use& use : m_uses) {
+            if (isFirst ? use.isOnFirstSide : use.isOnSecondSide) {
+                interiors.insert(use.boundary->interior());
+            }
         }
         if (interiors.size() > 1) {
             return State::MoreThanOneVolumePerSide;
@@ -58,7 +80,7 @@ gtm::Interface::State Interface::judgedState() const
     return State::Valid;
 }
 
-InterfaceAnswers& answersOf(gtm::Interface* interface) { return scriptedOf(interface)->answers(); }
+InterfaceAnswers& answersOf(gtm::Interface* interface) { return scriptedOf(interface)->answersToSet(); }
 
 std::string stateText(int state)
 {
@@ -104,7 +126,7 @@ std::string Interface::name() const
 std::string Interface::rename(const std::string& name)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "rename", name);
+    self->copy().called(*self, "rename", name);
     self->m_name = self->copy().nameFor(name);
     return self->answers().renameResult.value_or(self->m_name);
 }
@@ -120,7 +142,7 @@ Interface::State Interface::state() const
 Interface::State Interface::relocate(const Sides& sides, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "relocate", sides.first, sides.second, enforceRestrictions);
+    self->copy().called(*self, "relocate", sides.first, sides.second, enforceRestrictions);
     const Sides before = self->sides();
     self->join(sides);
     const State result = self->answers().relocateResult.value_or(state());
@@ -133,7 +155,7 @@ Interface::State Interface::relocate(const Sides& sides, bool enforceRestriction
 void Interface::destroy()
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "destroy");
+    self->copy().called(*self, "destroy");
     self->copy().end(self);
 }
 

@@ -3,24 +3,25 @@
 #include "gtm/Interface.h"
 #include "tests/scripted/Answers.h"
 
-#include <cstddef>
+#include <list>
 #include <string>
+#include <vector>
 
 namespace scripted {
 
+class Boundary;
 class WorkingCopy;
 
 class Interface final : public gtm::Interface {
 public:
-    Interface(WorkingCopy& copy, std::size_t serial, std::string name, Sides sides);
+    Interface(WorkingCopy& copy, std::string name, const Sides& sides);
     ~Interface();
 
     WorkingCopy& copy() const { return m_copy; }
-    std::size_t serial() const { return m_serial; }
-    InterfaceAnswers& answers() { return m_answers; }
-    const InterfaceAnswers& answers() const { return m_answers; }
-    const Sides& sides() const { return m_sides; }
-    void join(Sides sides);
+    InterfaceAnswers& answersToSet() { return m_answers.write(); }
+    const InterfaceAnswers& answers() const { return m_answers.read(); }
+    Sides sides() const;
+    void join(const Sides& sides);
 
     /// As messages of the record name it.
     std::string subject() const { return "interface \"" + m_name + "\""; }
@@ -29,14 +30,22 @@ public:
     State judgedState() const;
 
     std::string m_name;
+    std::list<Interface>::iterator m_self; // among the interfaces of its working copy
 
 private:
+    /// One boundary on a side or on both.
+    struct Use {
+        Boundary* boundary;
+        bool isOnFirstSide;
+        bool isOnSecondSide;
+        std::list<Interface*>::iterator place; // among the interfaces of the boundary
+    };
+
     void leaveSides();
 
     WorkingCopy& m_copy;
-    std::size_t m_serial;
-    Sides m_sides;
-    InterfaceAnswers m_answers;
+    std::vector<Use> m_uses;
+    SetAnswers<InterfaceAnswers> m_answers;
 };
 
 inline Interface* scriptedOf(gtm::Interface* interface) { return static_cast<Interface*>(interface); }

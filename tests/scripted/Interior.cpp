@@ -6,14 +6,11 @@
 
 namespace scripted {
 
-Interior::Interior(WorkingCopy& copy, std::size_t serial, std::string name, std::optional<Place> place)
-    : m_name(std::move(name)),
-      m_copy(copy),
-      m_serial(serial),
-      m_defaultBoundary(std::make_unique<Boundary>(*this, 0, "default", std::nullopt))
+Interior::Interior(WorkingCopy& copy, std::string name, std::optional<Place> place)
+    : m_name(std::move(name)), m_copy(copy), m_defaultBoundary(*this, "default", std::nullopt)
 {
     if (place) {
-        m_location = std::make_unique<Location>(copy.topology(), *std::move(place), [this] {
+        m_location.emplace(copy.topology(), *std::move(place), [this] {
             const std::vector<gtm::Body*> found = bodies();
             return std::vector<gtm::Region*>(found.begin(), found.end());
         });
@@ -25,42 +22,40 @@ Interior::~Interior() = default;
 std::pair<gtm::Boundary*, gtm::Boundary::State> Interior::createBoundary(const std::string& name, Place place,
                                                                          bool enforceRestrictions)
 {
-    if (m_answers.refuseNextBoundary) {
-        return {nullptr, *std::exchange(m_answers.refuseNextBoundary, std::nullopt)};
+    if (answers().refuseNextBoundary) {
+        return {nullptr, *std::exchange(answersToSet().refuseNextBoundary, std::nullopt)};
     }
-    const std::size_t serial = m_copy.nextSerial();
-    const auto boundary =
-        m_boundaries.emplace(serial, std::make_unique<Boundary>(*this, serial, m_copy.nameFor(name), std::move(place)))
-            .first;
-    const gtm::Boundary::State state = boundary->second->state();
+    Boundary& boundary = m_boundaries.emplace_back(*this, m_copy.nameFor(name), std::move(place));
+    boundary.m_self = std::prev(m_boundaries.end());
+    const gtm::Boundary::State state = boundary.state();
     if (enforceRestrictions && state != gtm::Boundary::State::Valid) {
-        m_boundaries.erase(boundary);
+        m_boundaries.erase(boundary.m_self);
         return {nullptr, state};
     }
-    return {boundary->second.get(), state};
+    return {&boundary, state};
 }
 
 void Interior::end(Boundary* boundary)
 {
     boundary->endInterfaces();
-    m_boundaries.erase(boundary->serial());
+    m_boundaries.erase(boundary->m_self);
 }
 
 void Interior::endBoundaries()
 {
-    for (const auto& [serial, boundary] : m_boundaries) {
-        boundary->endInterfaces();
+    for (Boundary& boundary : m_boundaries) {
+        boundary.endInterfaces();
     }
     m_boundaries.clear();
-    m_defaultBoundary->endInterfaces();
+    m_defaultBoundary.endInterfaces();
     m_isDefaultBoundaryActive = false;
 }
 
 std::vector<Boundary*> Interior::ordinaryBoundaries() const
 {
     std::vector<Boundary*> boundaries;
-    for (const auto& [serial, boundary] : m_boundaries) {
-        boundaries.push_back(boundary.get());
+    for (Boundary& boundary : m_boundaries) {
+        boundaries.push_back(&boundary);
     }
     return boundaries;
 }
@@ -127,8 +122,8 @@ std::vector<gtm::FaceUse*> Interior::outwardFaceUsesBeside(const std::vector<Bou
 
 gtm::Interior::State Interior::placementState() const
 {
-    if (m_answers.state || !m_copy.isJudging()) {
-        return m_answers.state.value_or(State::Valid);
+    if (answers().state || !m_copy.isJudging()) {
+        return answers().state.value_or(State::Valid);
     }
     const auto isNoBodyOrPart = [](gtm::Region* region) {
         return !dynamic_cast<gtm::Body*>(region) && !dynamic_cast<gtm::Part*>(region);
@@ -154,7 +149,7 @@ gtm::Interior::State Interior::judgedState() const
     return state == State::Valid && !unusedFaceUses().empty() ? State::Incomplete : state;
 }
 
-InteriorAnswers& answersOf(gtm::Interior* interior) { return scriptedOf(interior)->answers(); }
+InteriorAnswers& answersOf(gtm::Interior* interior) { return scriptedOf(interior)->answersToSet(); }
 
 std::set<gtm::FaceUse*> faceUsesOf(const std::vector<Boundary*>& boundaries)
 {
@@ -184,7 +179,7 @@ std::string Interior::name() const
 std::string Interior::rename(const std::string& name)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "rename", name);
+    self->copy().called(*self, "rename", name);
     self->m_name = self->copy().nameFor(name);
     return self->answers().renameResult.value_or(self->m_name);
 }
@@ -193,7 +188,7 @@ std::pair<Boundary*, Boundary::State> Interior::createBoundary(const std::string
                                                                bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "createBoundary", name, location, enforceRestrictions);
+    self->copy().called(*self, "createBoundary", name, location, enforceRestrictions);
     return self->createBoundary(name, scripted::Place(location), enforceRestrictions);
 }
 
@@ -201,7 +196,7 @@ std::pair<Boundary*, Boundary::State>
 Interior::createBoundary(const std::string& name, const std::vector<Region*>& regions, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "createBoundary", name, regions, enforceRestrictions);
+    self->copy().called(*self, "createBoundary", name, regions, enforceRestrictions);
     return self->createBoundary(name, scripted::Place(regions), enforceRestrictions);
 }
 
@@ -214,7 +209,7 @@ Boundary* Interior::defaultBoundary() const
 void Interior::activateDefaultBoundary(bool active)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "activateDefaultBoundary", active);
+    self->copy().called(*self, "activateDefaultBoundary", active);
     self->m_isDefaultBoundaryActive = active;
 }
 
@@ -320,28 +315,28 @@ Interior::State Interior::state() const
 Interior::State Interior::relocate(const std::string& location, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "relocate", location, enforceRestrictions);
+    self->copy().called(*self, "relocate", location, enforceRestrictions);
     return scripted::relocated(*self, scripted::Place(location), enforceRestrictions);
 }
 
 Interior::State Interior::relocate(const std::vector<Region*>& regions, bool enforceRestrictions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "relocate", regions, enforceRestrictions);
+    self->copy().called(*self, "relocate", regions, enforceRestrictions);
     return scripted::relocated(*self, scripted::Place(regions), enforceRestrictions);
 }
 
 bool Interior::remove(const std::vector<Region*>& regions)
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "remove", regions);
+    self->copy().called(*self, "remove", regions);
     return scripted::removed(*self, regions);
 }
 
 void Interior::destroy()
 {
     auto* self = scriptedOf(this);
-    self->copy().called(self->subject(), "destroy");
+    self->copy().called(*self, "destroy");
     if (self->isDefaultInterior()) {
         self->copy().m_isDefaultInteriorActive = false;
     } else {

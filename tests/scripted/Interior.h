@@ -6,8 +6,7 @@
 #include "tests/scripted/Location.h"
 
 #include <cstddef>
-#include <map>
-#include <memory>
+#include <list>
 #include <optional>
 #include <set>
 #include <string>
@@ -21,15 +20,15 @@ class WorkingCopy;
 class Interior final : public gtm::Interior {
 public:
     /// Without a place it is the default interior of its working copy.
-    Interior(WorkingCopy& copy, std::size_t serial, std::string name, std::optional<Place> place);
+    Interior(WorkingCopy& copy, std::string name, std::optional<Place> place);
     ~Interior();
 
     WorkingCopy& copy() const { return m_copy; }
-    std::size_t serial() const { return m_serial; }
-    Location* location() const { return m_location.get(); }
-    InteriorAnswers& answers() { return m_answers; }
-    const InteriorAnswers& answers() const { return m_answers; }
-    Boundary* defaultBoundary() const { return m_defaultBoundary.get(); }
+    Location* location() { return m_location ? &*m_location : nullptr; }
+    const Location* location() const { return m_location ? &*m_location : nullptr; }
+    InteriorAnswers& answersToSet() { return m_answers.write(); }
+    const InteriorAnswers& answers() const { return m_answers.read(); }
+    Boundary* defaultBoundary() const { return &m_defaultBoundary; }
 
     /// As messages of the record name it.
     std::string subject() const { return "interior \"" + m_name + "\""; }
@@ -54,15 +53,15 @@ public:
     std::vector<gtm::FaceUse*> outwardFaceUsesBeside(const std::vector<Boundary*>& boundaries) const;
 
     std::string m_name;
+    std::list<Interior>::iterator m_self; // among the interiors of its working copy, unless it is the default one
     bool m_isDefaultBoundaryActive = false;
 
 private:
     WorkingCopy& m_copy;
-    std::size_t m_serial;
-    std::unique_ptr<Location> m_location;
-    InteriorAnswers m_answers;
-    std::map<std::size_t, std::unique_ptr<Boundary>> m_boundaries;
-    std::unique_ptr<Boundary> m_defaultBoundary;
+    std::optional<Location> m_location;
+    SetAnswers<InteriorAnswers> m_answers;
+    mutable std::list<Boundary> m_boundaries; // as with a pointer: a constant interior hands out boundaries to change
+    mutable Boundary m_defaultBoundary;
 };
 
 inline Interior* scriptedOf(gtm::Interior* interior) { return static_cast<Interior*>(interior); }

@@ -21,7 +21,7 @@ public:
 VirtualTopology::VirtualTopology(Topology* topology, const std::string& name, int number)
     : m_implementation(std::make_unique<Implementation>(this, *static_cast<scripted::Topology*>(topology)))
 {
-    m_implementation->called("", "VirtualTopology", name, number);
+    m_implementation->called(*m_implementation, "VirtualTopology", name, number);
 }
 
 VirtualTopology::~VirtualTopology() = default;
@@ -30,7 +30,7 @@ std::pair<Interior*, Interior::State> VirtualTopology::createInterior(const std:
                                                                       const std::string& location, bool isTemporary,
                                                                       bool enforceRestrictions)
 {
-    m_implementation->called("", "createInterior", name, location, isTemporary, enforceRestrictions);
+    m_implementation->called(*m_implementation, "createInterior", name, location, isTemporary, enforceRestrictions);
     return m_implementation->createInterior(name, scripted::Place(location), enforceRestrictions);
 }
 
@@ -38,7 +38,7 @@ std::pair<Interior*, Interior::State> VirtualTopology::createInterior(const std:
                                                                       const std::vector<Region*>& regions,
                                                                       bool isTemporary, bool enforceRestrictions)
 {
-    m_implementation->called("", "createInterior", name, regions, isTemporary, enforceRestrictions);
+    m_implementation->called(*m_implementation, "createInterior", name, regions, isTemporary, enforceRestrictions);
     return m_implementation->createInterior(name, scripted::Place(regions), enforceRestrictions);
 }
 
@@ -47,13 +47,13 @@ std::pair<Interface*, Interface::State> VirtualTopology::createInterface(const s
                                                                          const std::set<Boundary*>& second,
                                                                          bool enforceRestrictions)
 {
-    m_implementation->called("", "createInterface", name, first, second, enforceRestrictions);
+    m_implementation->called(*m_implementation, "createInterface", name, first, second, enforceRestrictions);
     return m_implementation->createInterface(name, {first, second}, enforceRestrictions);
 }
 
 void VirtualTopology::activateDefaultInterior(bool active)
 {
-    m_implementation->called("", "activateDefaultInterior", active);
+    m_implementation->called(*m_implementation, "activateDefaultInterior", active);
     m_implementation->m_isDefaultInteriorActive = active;
 }
 
@@ -80,19 +80,19 @@ std::size_t VirtualTopology::noOfInterfaces() const { return m_implementation->n
 
 void VirtualTopology::mask(const std::vector<Body*>& bodies)
 {
-    m_implementation->called("", "mask", bodies);
+    m_implementation->called(*m_implementation, "mask", bodies);
     m_implementation->mask(bodies, true);
 }
 
 void VirtualTopology::unmask(const std::vector<Body*>& bodies)
 {
-    m_implementation->called("", "unmask", bodies);
+    m_implementation->called(*m_implementation, "unmask", bodies);
     m_implementation->mask(bodies, false);
 }
 
 void VirtualTopology::setMaskedBodies(const std::vector<Body*>& bodies)
 {
-    m_implementation->called("", "setMaskedBodies", bodies);
+    m_implementation->called(*m_implementation, "setMaskedBodies", bodies);
     m_implementation->unmaskAll();
     m_implementation->mask(bodies, true);
 }
@@ -168,7 +168,7 @@ bool VirtualTopology::isValid(bool acceptEmpty) const
 
 void VirtualTopology::clear()
 {
-    m_implementation->called("", "clear");
+    m_implementation->called(*m_implementation, "clear");
     m_implementation->clear();
 }
 

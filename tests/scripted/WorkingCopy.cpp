@@ -9,7 +9,7 @@ WorkingCopy::WorkingCopy(gtm::VirtualTopology* virtualTopology, Topology& topolo
     : m_virtualTopology(virtualTopology),
       m_topology(topology),
       m_index(topology.m_world.m_workingCopies.size()),
-      m_defaultInterior(std::make_unique<Interior>(*this, 0, "default", std::nullopt))
+      m_defaultInterior(std::make_unique<Interior>(*this, "default", std::nullopt))
 {
     topology.m_world.m_workingCopies.push_back(this);
 }
@@ -22,15 +22,14 @@ std::pair<gtm::Interior*, gtm::Interior::State> WorkingCopy::createInterior(cons
     if (answers().refuseNextInterior) {
         return {nullptr, *std::exchange(answers().refuseNextInterior, std::nullopt)};
     }
-    const std::size_t serial = nextSerial();
-    const auto interior =
-        m_interiors.emplace(serial, std::make_unique<Interior>(*this, serial, nameFor(name), std::move(place))).first;
-    const gtm::Interior::State state = interior->second->placementState();
+    Interior& interior = m_interiors.emplace_back(*this, nameFor(name), std::move(place));
+    interior.m_self = std::prev(m_interiors.end());
+    const gtm::Interior::State state = interior.placementState();
     if (enforceRestrictions && state != gtm::Interior::State::Valid) {
-        m_interiors.erase(interior);
+        m_interiors.erase(interior.m_self);
         return {nullptr, state};
     }
-    return {interior->second.get(), state};
+    return {&interior, state};
 }
 
 std::pair<gtm::Interface*, gtm::Interface::State>
@@ -42,14 +41,14 @@ WorkingCopy::createInterface(const std::string& name, gtm::Interface::Sides side
     if (!areOurs(sides.first) || !areOurs(sides.second)) {
         return {nullptr, gtm::Interface::State::Inconsistent};
     }
-    auto created = std::make_unique<Interface>(*this, nextSerial(), nameFor(name), std::move(sides));
-    Interface* interface = created.get();
-    const gtm::Interface::State state = interface->state();
+    Interface& interface = m_interfaces.emplace_back(*this, nameFor(name), std::move(sides));
+    interface.m_self = std::prev(m_interfaces.end());
+    const gtm::Interface::State state = interface.state();
     if (enforceRestrictions && state != gtm::Interface::State::Valid) {
+        m_interfaces.erase(interface.m_self);
         return {nullptr, state};
     }
-    m_interfaces.emplace(interface->serial(), std::move(created));
-    return {interface, state};
+    return {&interface, state};
 }
 
 bool WorkingCopy::areOurs(const std::set<gtm::Boundary*>& boundaries) const
@@ -62,10 +61,10 @@ bool WorkingCopy::areOurs(const std::set<gtm::Boundary*>& boundaries) const
 void WorkingCopy::end(Interior* interior)
 {
     interior->endBoundaries();
-    m_interiors.erase(interior->serial());
+    m_interiors.erase(interior->m_self);
 }
 
-void WorkingCopy::end(Interface* interface) { m_interfaces.erase(interface->serial()); }
+void WorkingCopy::end(Interface* interface) { m_interfaces.erase(interface->m_self); }
 
 void WorkingCopy::clear()
 {
@@ -79,8 +78,8 @@ void WorkingCopy::clear()
 std::vector<Interior*> WorkingCopy::interiors() const
 {
     std::vector<Interior*> interiors;
-    for (const auto& [serial, interior] : m_interiors) {
-        interiors.push_back(interior.get());
+    for (Interior& interior : m_interiors) {
+        interiors.push_back(&interior);
     }
     if (m_isDefaultInteriorActive) {
         interiors.push_back(m_defaultInterior.get());
@@ -91,8 +90,8 @@ std::vector<Interior*> WorkingCopy::interiors() const
 std::vector<Interface*> WorkingCopy::interfaces() const
 {
     std::vector<Interface*> interfaces;
-    for (const auto& [serial, interface] : m_interfaces) {
-        interfaces.push_back(interface.get());
+    for (Interface& interface : m_interfaces) {
+        interfaces.push_back(&interface);
     }
     return interfaces;
 }

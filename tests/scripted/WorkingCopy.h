@@ -7,7 +7,7 @@
 #include "tests/scripted/World.h"
 
 #include <cstddef>
-#include <map>
+#include <list>
 #include <memory>
 #include <set>
 #include <string>
@@ -28,12 +28,14 @@ public:
     VirtualTopologyAnswers& answers() { return m_topology.m_world.answers(m_index); }
     bool isJudging() const { return m_topology.m_world.m_isJudging; }
     std::string nameFor(const std::string& name) const { return m_topology.m_world.nameFor(name); }
-    std::size_t nextSerial() { return ++m_lastSerial; }
 
-    /// Records a change that was asked for, and throws when the test wants it to. `subject` is the entity
-    /// that was asked, or empty for the virtual topology itself.
-    template <class... Arguments>
-    void called(const std::string& subject, const char* operation, const Arguments&... arguments);
+    /// As messages of the record name the virtual topology: not at all.
+    static std::string subject() { return {}; }
+
+    /// Records a change that was asked for, and throws when the test wants it to. `asked` is the entity that was
+    /// asked, or the working copy itself.
+    template <class Asked, class... Arguments>
+    void called(const Asked& asked, const char* operation, const Arguments&... arguments);
     void throwIfAsked(const char* operation) const { m_topology.m_world.throwIfAsked(operation); }
 
     std::pair<gtm::Interior*, gtm::Interior::State> createInterior(const std::string& name, Place place,
@@ -65,11 +67,10 @@ private:
     gtm::VirtualTopology* m_virtualTopology;
     Topology& m_topology;
     std::size_t m_index;
-    std::size_t m_lastSerial = 0;
     std::set<const gtm::Body*> m_masked;
-    std::map<std::size_t, std::unique_ptr<Interior>> m_interiors;
+    mutable std::list<Interior> m_interiors; // as with pointers: a constant copy hands out entities to change
     std::unique_ptr<Interior> m_defaultInterior;
-    std::map<std::size_t, std::unique_ptr<Interface>> m_interfaces;
+    mutable std::list<Interface> m_interfaces;
 };
 
 // The arguments of a call as the record shows them.
@@ -82,11 +83,12 @@ std::string shown(const std::vector<gtm::Region*>& regions);
 std::string shown(const std::vector<gtm::Body*>& bodies);
 std::string shown(const std::set<gtm::Boundary*>& boundaries);
 
-template <class... Arguments>
-void WorkingCopy::called(const std::string& subject, const char* operation, const Arguments&... arguments)
+template <class Asked, class... Arguments>
+void WorkingCopy::called(const Asked& asked, const char* operation, const Arguments&... arguments)
 {
     World& world = m_topology.m_world;
     if (world.m_isRecording) {
+        const std::string subject = asked.subject();
         std::string list;
         ((list += (list.empty() ? "" : ", ") + shown(arguments)), ...);
         const std::string number = m_index == 0 ? "" : "#" + std::to_string(m_index) + " ";
