@@ -19,23 +19,28 @@ namespace physics {
 
 int Boundary::s_lastUsedId = 0;
 
-Boundary::Boundary(int id, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
+Boundary::Boundary(int id, int ownPatchId, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
     : m_id(id),
       m_type(type),
       m_boundary(boundary),
       m_volume(volume),
       m_isDefault(isDefault),
-      m_interfacePatches(NodeAllocator<char>(physics()->registry().nodes))
+      m_ownPatch(ownPatchId, this, nullptr)
 {}
 
 Boundary::Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault)
-    : Boundary(nextId(s_lastUsedId), volume, type, boundary, isDefault)
+    : Boundary(nextId(s_lastUsedId), nextId(BoundaryPatch::s_lastUsedId), volume, type, boundary, isDefault)
 {
-    m_ownPatch.reset(new (physics()->registry().nodes) BoundaryPatch(this, nullptr));
     volume->add(this);
 }
 
-Boundary::~Boundary() = default;
+Boundary::~Boundary()
+{
+    if (Brood<Boundary, OfVolume>::isIn(*this))
+        --m_volume->m_noOfBoundaries;
+    physics()->registry().forget(this);
+    endPatches();
+}
 
 Physics* Boundary::physics() const { return m_volume->physics(); }
 
@@ -45,7 +50,7 @@ State Boundary::state() const { return State(static_cast<int>(m_boundary->state(
 bool Boundary::isActive() const { return m_volume->isActive(); }
 bool Boundary::isEmpty() const { return m_boundary->faceUses().empty(); }
 std::string Boundary::rename(const std::string& name) { return m_boundary->rename(name); }
-Model* Boundary::shellModel() const { return m_shellModel.get(); }
+Model* Boundary::shellModel() const { return m_shellModel; }
 Model* Boundary::volumeModel() const { return m_volume->model(); }
 VolumeType Boundary::volumeType() const { return m_volume->type(); }
 
@@ -75,8 +80,8 @@ bool Boundary::setBoundaryType(BoundaryType type)
 {
     if (!physics()->isAllowedBoundaryType(volumeType(), type))
         return false;
-    for (const auto& entry : m_interfacePatches)
-        if (!entry.first->isAllowedBoundaryType(volumeType(), type))
+    for (const Interface* interface : interfaces())
+        if (!interface->isAllowedBoundaryType(volumeType(), type))
             return false;
     m_type = type;
     return true;
@@ -84,7 +89,7 @@ bool Boundary::setBoundaryType(BoundaryType type)
 
 bool Boundary::setShellType(ShellType type)
 {
-    if (!m_shellModel || !isAllowedShellType(type))
+    if (m_shellModel == nullptr || !isAllowedShellType(type))
         return false;
     m_shellType = type;
     return true;
@@ -94,9 +99,9 @@ void Boundary::setShellModel(Model* model)
 {
     if (model != nullptr && model->physics() != physics())
         return;
-    if (m_shellModel && model != nullptr)
+    if (m_shellModel != nullptr && model != nullptr)
         m_shellModel->move(this, model);
-    else if (m_shellModel)
+    else if (m_shellModel != nullptr)
         m_shellModel->remove(this);
     else if (model != nullptr)
         model->add(this);
@@ -130,41 +135,43 @@ void Boundary::removeTag(BoundaryTag tag)
 bool Boundary::hasTag(BoundaryTag tag) const { return std::binary_search(m_tags.begin(), m_tags.end(), tag); }
 std::vector<BoundaryTag> Boundary::tags() const { return m_tags; }
 
-BoundaryPatch* Boundary::addToInterface(Interface* interface)
+void Boundary::addToInterface(Interface* interface)
 {
-    auto* patch = new (physics()->registry().nodes) BoundaryPatch(this, interface);
-    setPatch(interface, patch);
-    return patch;
+    addPatch(new (physics()->registry().nodes) BoundaryPatch(this, interface));
 }
 
 /// An earlier patch for the interface ends, as with an interface that has this boundary on both sides.
-void Boundary::setPatch(const Interface* interface, BoundaryPatch* patch)
+void Boundary::addPatch(BoundaryPatch* patch)
 {
-    std::unique_ptr<BoundaryPatch> owned(patch);
-    m_interfacePatches[interface].swap(owned);
+    m_interfacePatches.enter(*patch);
+    ++m_noOfInterfaces;
+    if (BoundaryPatch* earlier = patch->interface()->exchangePatch(patch))
+        removePatch(earlier);
 }
 
-/// The patch ends before its entry goes: until then the boundary counts it, so that the zones of an
-/// undivided boundary are not yet inherited.
-bool Boundary::removeFromInterface(Interface* interface)
+/// Until the patch has ended, the boundary counts it, so that the zones of an undivided boundary are not yet
+/// inherited.
+void Boundary::removePatch(BoundaryPatch* patch)
 {
-    const auto entry = m_interfacePatches.find(interface);
-    if (entry == m_interfacePatches.end())
-        return false;
-    entry->second.reset();
-    m_interfacePatches.erase(entry);
-    return true;
+    delete patch;
+    --m_noOfInterfaces;
 }
 
-int Boundary::noOfInterfaces() const { return static_cast<int>(m_interfacePatches.size()); }
+void Boundary::endPatches()
+{
+    while (BoundaryPatch* patch = m_interfacePatches.first())
+        removePatch(patch);
+    m_ownPatch.endSettings();
+}
+
+int Boundary::noOfInterfaces() const { return m_noOfInterfaces; }
 
 std::vector<Interface*> Boundary::interfaces() const
 {
     std::vector<Interface*> interfaces;
-    interfaces.reserve(m_interfacePatches.size());
-    for (const auto& entry : m_interfacePatches)
-        if (entry.second != nullptr)
-            interfaces.push_back(entry.second->interface());
+    interfaces.reserve(static_cast<std::size_t>(m_noOfInterfaces));
+    for (const auto* patch = m_interfacePatches.first(); patch != nullptr; patch = m_interfacePatches.after(*patch))
+        interfaces.push_back(patch->interface());
     sortById(interfaces);
     return interfaces;
 }
@@ -172,17 +179,30 @@ std::vector<Interface*> Boundary::interfaces() const
 BoundaryPatch* Boundary::patch(const Interface* interface) const
 {
     if (interface == nullptr)
-        return m_ownPatch.get();
-    const auto entry = m_interfacePatches.find(interface);
-    return entry == m_interfacePatches.end() ? nullptr : entry->second.get();
+        return &m_ownPatch;
+    const Interface* live = physics()->registry().interfacesByAddress.find(interface);
+    return live == nullptr ? nullptr : patchFor(live);
+}
+
+BoundaryPatch* Boundary::patchFor(const Interface* live) const
+{
+    return live == nullptr ? &m_ownPatch : live->patchOf(this);
 }
 
 std::vector<BoundaryPatch*> Boundary::patches() const
 {
-    std::vector<BoundaryPatch*> patches = {m_ownPatch.get()};
-    for (const Interface* interface : interfaces())
-        patches.push_back(patch(interface));
+    std::vector<BoundaryPatch*> patches;
+    patches.reserve(1 + static_cast<std::size_t>(noOfInterfaces()));
+    appendPatches(patches);
+    sortByIdOf(patches, [](const BoundaryPatch* patch) { return patch->interface(); }); // none comes first
     return patches;
+}
+
+void Boundary::appendPatches(std::vector<BoundaryPatch*>& result) const
+{
+    result.push_back(&m_ownPatch);
+    for (auto* patch = m_interfacePatches.first(); patch != nullptr; patch = m_interfacePatches.after(*patch))
+        result.push_back(patch);
 }
 
 Settings* Boundary::settings(SettingsType kind, const Interface* interface) const
@@ -207,8 +227,8 @@ Settings* Boundary::interfaceSettings(const Interface* interface) const
     return settings(SettingsType::InterfaceSettings, interface);
 }
 
-Settings* Boundary::nonOverlappingBoundarySettings() const { return m_ownPatch->boundarySettings(); }
-Settings* Boundary::nonOverlappingShellSettings() const { return m_ownPatch->shellSettings(); }
+Settings* Boundary::nonOverlappingBoundarySettings() const { return m_ownPatch.boundarySettings(); }
+Settings* Boundary::nonOverlappingShellSettings() const { return m_ownPatch.shellSettings(); }
 
 void Boundary::appendSettings(std::vector<Settings*>& result, SettingsType kind) const
 {
@@ -218,8 +238,8 @@ void Boundary::appendSettings(std::vector<Settings*>& result, SettingsType kind)
 
 void Boundary::appendInterfaceSettings(std::vector<Settings*>& result) const
 {
-    for (const Interface* interface : interfaces())
-        if (Settings* settings = patch(interface)->interfaceSettings())
+    for (const BoundaryPatch* patch : patches())
+        if (Settings* settings = patch->interfaceSettings())
             result.push_back(settings);
 }
 
@@ -235,7 +255,7 @@ std::vector<Settings*> Boundary::allBoundarySettings() const
 std::vector<Settings*> Boundary::allShellSettings() const
 {
     std::vector<Settings*> result;
-    if (m_shellModel)
+    if (m_shellModel != nullptr)
         appendSettings(result, SettingsType::ShellSettings);
     sortOnceById(result);
     return result;
@@ -252,7 +272,7 @@ std::vector<Settings*> Boundary::allInterfaceSettings() const
 std::vector<Settings*> Boundary::allSettings() const
 {
     std::vector<Settings*> result = allBoundarySettings();
-    if (m_shellModel)
+    if (m_shellModel != nullptr)
         appendSettings(result, SettingsType::ShellSettings);
     appendInterfaceSettings(result);
     sortOnceById(result);
@@ -301,10 +321,9 @@ bool Boundary::destroy()
     for (Interface* interface : interfaces())
         interface->destroy();
     m_volume->remove(this);
-    if (m_shellModel)
+    if (m_shellModel != nullptr)
         m_shellModel->remove(this);
-    m_interfacePatches.clear();
-    m_ownPatch.reset();
+    endPatches(); // while the location model still has the boundary
     if (m_isDefault)
         interior->activateDefaultBoundary(false);
     else

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "physics/BoundaryPatch.h"
 #include "physics/Region.h"
 
 #include <iosfwd>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,7 +16,6 @@ class Region;
 
 namespace physics {
 
-class BoundaryPatch;
 class Interface;
 class Model;
 class Physics;
@@ -29,7 +28,7 @@ struct BoundaryRecord;
 ///
 /// Made by `Volume::createBoundary` and `createDefaultBoundary`; ended by `destroy` or with its volume.
 /// It owns its patches: one of its own, and one for each interface that it takes part in.
-class PHYSICS_EXPORT Boundary final : public Region {
+class PHYSICS_EXPORT Boundary final : public Region, public Place<Boundary, OfVolume>, public Place<Boundary, OfModel> {
 public:
     std::string name() const override;
 
@@ -201,16 +200,20 @@ private:
     static int s_lastUsedId;
 
     Boundary(Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault);
-    Boundary(int id, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault);
+    Boundary(int id, int ownPatchId, Volume* volume, BoundaryType type, gtm::Boundary* boundary, bool isDefault);
     ~Boundary();
 
     BoundaryRecord serialise(const PhysicsSerialiser& serialiser) const;
     static Boundary* restore(const PhysicsSerialiser& serialiser, const BoundaryRecord& record);
 
-    BoundaryPatch* addToInterface(Interface* interface);
-    bool removeFromInterface(Interface* interface);
-    void setPatch(const Interface* interface, BoundaryPatch* patch);
+    void addToInterface(Interface* interface);
+    void addPatch(BoundaryPatch* patch);
+    void removePatch(BoundaryPatch* patch);
+    void endPatches();
     Physics* physics() const;
+    /// Like `patch`, for an interface that is known to live.
+    BoundaryPatch* patchFor(const Interface* live) const;
+    void appendPatches(std::vector<BoundaryPatch*>& result) const; // in no particular order
     void appendSettings(std::vector<Settings*>& result, SettingsType kind) const;
     void appendInterfaceSettings(std::vector<Settings*>& result) const;
 
@@ -218,14 +221,13 @@ private:
     BoundaryType m_type;
     ShellType m_shellType = ShellType::Unset;
     std::vector<BoundaryTag> m_tags; // ascending
-    Link<Model> m_shellModel;
+    Model* m_shellModel = nullptr;   // that has the boundary among its shells
     gtm::Boundary* m_boundary;
     Volume* m_volume;
     const bool m_isDefault;
-    // Last, so that patches end while the rest of the boundary still answers.
-    std::unique_ptr<BoundaryPatch> m_ownPatch;
-    Hashed<const Interface*>::With<std::unique_ptr<BoundaryPatch>> m_interfacePatches;
-    Place<Boundary> m_place{this};
+    int m_noOfInterfaces = 0;
+    mutable BoundaryPatch m_ownPatch;                    // as behind a pointer: a constant boundary hands it out
+    Brood<BoundaryPatch, OfBoundary> m_interfacePatches; // those for interfaces; all that the boundary owns
 };
 
 } // namespace physics

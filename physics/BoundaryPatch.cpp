@@ -18,7 +18,9 @@ BoundaryPatch::BoundaryPatch(Boundary* boundary, Interface* interface)
     : BoundaryPatch(nextId(s_lastUsedId), boundary, interface)
 {}
 
-BoundaryPatch::~BoundaryPatch()
+BoundaryPatch::~BoundaryPatch() { endSettings(); }
+
+void BoundaryPatch::endSettings()
 {
     for (const SettingsType kind :
          {SettingsType::VolumeSettings, SettingsType::InterfaceSettings, SettingsType::ShellSettings})
@@ -29,6 +31,7 @@ BoundaryPatch::~BoundaryPatch()
     for (Settings* settings : m_settings.objects())
         if (Model::isPatchKind(settings->type()))
             delete settings;
+    Settings::detachAll(m_settings);
 }
 
 Volume* BoundaryPatch::volume() const { return m_boundary->volume(); }
@@ -65,7 +68,7 @@ BoundaryPatch* BoundaryPatch::pairedPatch() const
     if (m_interface == nullptr)
         return nullptr;
     const Boundary* other = m_interface->otherBoundary(m_boundary);
-    return other == nullptr ? nullptr : other->patch(m_interface);
+    return other == nullptr ? nullptr : other->patchFor(m_interface);
 }
 
 std::string BoundaryPatch::name() const

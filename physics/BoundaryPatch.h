@@ -5,7 +5,6 @@
 #include "physics/Types.h"
 
 #include <iosfwd>
-#include <memory>
 #include <string>
 
 namespace physics {
@@ -20,7 +19,7 @@ struct PatchRecord;
 
 /// The piece of a boundary that takes part in one interface, or (its interface is null) the piece that
 /// takes part in none. Made and ended by its boundary; the settings of a patch end with it.
-class PHYSICS_EXPORT BoundaryPatch final : public Referable {
+class PHYSICS_EXPORT BoundaryPatch final : public Referable, public Place<BoundaryPatch, OfBoundary> {
 public:
     /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
@@ -77,7 +76,6 @@ private:
     friend class Model;
     friend class PhysicsSerialiser;
     friend class Settings;
-    friend struct std::default_delete<BoundaryPatch>;
 
     static int s_lastUsedId;
 
@@ -85,12 +83,15 @@ private:
     BoundaryPatch(int id, Boundary* boundary, Interface* interface);
     ~BoundaryPatch();
 
+    /// Ends the settings of the patch and its ties to those that stay.
+    void endSettings();
+
     PatchRecord serialise(const PhysicsSerialiser& serialiser) const;
 
     const int m_id;
     Boundary* m_boundary;
-    Interface* m_interface;     // an interface that ends takes its patches along
-    Brood<Settings> m_settings; // all that were made for this patch and live, in whichever model
+    Interface* m_interface;                // an interface that ends takes its patches along
+    Brood<Settings, OfSubject> m_settings; // all that were made for this patch and live, in whichever model
 };
 
 } // namespace physics

@@ -5,6 +5,7 @@
 #include "physics/Model.h"
 #include "physics/Physics.h"
 #include "physics/Registry.h"
+#include "physics/Settings.h"
 #include "physics/Volume.h"
 
 #include "gtm/LocationModel.h"
@@ -32,6 +33,7 @@ Interface::Interface(Physics* physics, InterfaceType type, Model* model, gtm::In
         physics->registry().add(this);
     } catch (...) {
         leaveBoundaries();
+        physics->registry().forget(this);
         throw;
     }
 }
@@ -53,7 +55,7 @@ std::string Interface::rename(const std::string& name)
     return hasEnded() ? std::string() : m_interface->rename(name);
 }
 
-Model* Interface::model() const { return m_model.get(); }
+Model* Interface::model() const { return m_model; }
 
 Boundary* Interface::boundary(Side side) const { return m_boundaries[side == Side::First ? 0 : 1]; }
 
@@ -72,7 +74,7 @@ Boundary* Interface::otherBoundary(const Boundary* boundary) const
     return boundary == m_boundaries[1] ? m_boundaries[0] : nullptr;
 }
 
-Settings* Interface::settings() const { return m_model ? m_model->settings(this) : nullptr; }
+Settings* Interface::settings() const { return m_model != nullptr ? m_model->settings(this) : nullptr; }
 
 Settings* Interface::boundarySettings(Side side) const
 {
@@ -111,16 +113,30 @@ bool Interface::isAllowedBoundaryType(VolumeType volumeType, BoundaryType bounda
 void Interface::setTranslationalPeriodicity(const std::array<double, 3>& offset)
 {
     m_periodicity = Periodicity::TranslationallyPeriodic;
-    m_offset = offset;
+    periodicToChange().offset = offset;
 }
 
 void Interface::setRotationalPeriodicity(double angle, const std::array<double, 3>& origin,
                                          const std::array<double, 3>& direction)
 {
     m_periodicity = Periodicity::RotationallyPeriodic;
-    m_angle = angle;
-    m_origin = origin;
-    m_direction = direction;
+    PeriodicValues& values = periodicToChange();
+    values.angle = angle;
+    values.origin = origin;
+    values.direction = direction;
+}
+
+const Interface::PeriodicValues& Interface::periodic() const
+{
+    static const PeriodicValues atFirst;
+    return m_periodic == nullptr ? atFirst : *m_periodic;
+}
+
+Interface::PeriodicValues& Interface::periodicToChange()
+{
+    if (m_periodic == nullptr)
+        m_periodic = std::make_unique<PeriodicValues>();
+    return *m_periodic;
 }
 
 Connectivity Interface::connectivity() const
@@ -148,7 +164,7 @@ bool Interface::setModel(Model* model)
 {
     if (model == nullptr || hasEnded() || model->physics() != m_physics)
         return false;
-    if (m_model)
+    if (m_model != nullptr)
         m_model->move(this, model);
     else
         model->add(this);
@@ -175,34 +191,58 @@ bool Interface::relocate(Boundary* first, Boundary* second, bool enforceRestrict
 /// by side, so that patch ids are drawn in a fixed order; a boundary that only changes sides keeps its patch.
 void Interface::rebind(const std::array<Boundary*, 2>& sides)
 {
-    const std::array<Boundary*, 2> before = m_boundaries;
+    const std::array<BoundaryPatch*, 2> joining = {patchOf(sides[0]), patchOf(sides[1])};
+    std::array<BoundaryPatch*, 2> leaving = m_patches;
+    if (leaving[1] == leaving[0])
+        leaving[1] = nullptr;
     m_boundaries = sides;
+    m_patches = joining;
     for (std::size_t side = 0; side < 2; ++side) {
-        if (before[side] != sides[0] && before[side] != sides[1])
-            before[side]->removeFromInterface(this);
-        if (sides[side]->patch(this) == nullptr)
+        if (leaving[side] != nullptr && patchOf(leaving[side]->boundary()) == nullptr)
+            leaving[side]->boundary()->removePatch(leaving[side]);
+        if (m_patches[side] == nullptr)
             sides[side]->addToInterface(this);
     }
 }
 
+BoundaryPatch* Interface::patchOf(const Boundary* boundary) const
+{
+    for (std::size_t side = 0; side < 2; ++side)
+        if (m_boundaries[side] == boundary)
+            return m_patches[side];
+    return nullptr;
+}
+
+BoundaryPatch* Interface::exchangePatch(BoundaryPatch* patch)
+{
+    BoundaryPatch* earlier = patchOf(patch->boundary());
+    for (std::size_t side = 0; side < 2; ++side)
+        if (m_boundaries[side] == patch->boundary())
+            m_patches[side] = patch;
+    return earlier;
+}
+
 void Interface::leaveBoundaries()
 {
-    for (Boundary* boundary : m_boundaries)
-        boundary->removeFromInterface(this);
+    for (BoundaryPatch* patch : {m_patches[0], m_patches[1] == m_patches[0] ? nullptr : m_patches[1]})
+        if (patch != nullptr)
+            patch->boundary()->removePatch(patch);
+    m_patches = {nullptr, nullptr};
 }
 
 void Interface::destroy()
 {
     if (hasEnded())
         return;
-    if (m_model)
+    if (m_model != nullptr)
         m_model->remove(this);
     m_physics->registry().remove(this);
     leaveBoundaries();
     gtm::Interface* interface = std::exchange(m_interface, nullptr);
     m_boundaries = {nullptr, nullptr};
     m_model = nullptr;
-    m_place.leave();
+    Brood<Interface, OfSetUp>::leave(*this);
+    Settings::detachAll(m_settings);
     endReferences();
     m_physics->registry().keepEnded(this);
     interface->destroy(); // last: whatever it throws, this object has ended and points at nothing

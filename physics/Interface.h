@@ -4,6 +4,7 @@
 
 #include <array>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,9 @@ struct InterfaceRecord;
 /// one of its boundaries ends. An ended interface stays allocated until its `Physics` ends, so a pointer
 /// to it may be kept: its plain values stay readable, everything that it pointed at is null, its name is
 /// empty, it is inactive and empty, its state is `Unresolvable`, and what would change a relation is refused.
-class PHYSICS_EXPORT Interface final : public Region {
+class PHYSICS_EXPORT Interface final : public Region,
+                                       public Place<Interface, OfSetUp>,
+                                       public Place<Interface, OfModel> {
 public:
     std::string name() const override;
 
@@ -128,16 +131,16 @@ public:
     void setNonPeriodic() { m_periodicity = Periodicity::NonPeriodic; }
 
     /// The offset that was given last, in the host's length unit; (1, 0, 0) at first.
-    std::array<double, 3> getPeriodicOffset() const { return m_offset; }
+    std::array<double, 3> getPeriodicOffset() const { return periodic().offset; }
 
     /// The angle that was given last, in the host's unit; 0 at first.
-    double getPeriodicAngle() const { return m_angle; }
+    double getPeriodicAngle() const { return periodic().angle; }
 
     /// A point of the axis of rotation, as given last, in the host's length unit; (0, 0, 0) at first.
-    std::array<double, 3> getPeriodicOrigin() const { return m_origin; }
+    std::array<double, 3> getPeriodicOrigin() const { return periodic().origin; }
 
     /// The direction of the axis of rotation, as given last; (1, 0, 0) at first.
-    std::array<double, 3> getPeriodicDirection() const { return m_direction; }
+    std::array<double, 3> getPeriodicDirection() const { return periodic().direction; }
 
     /// How far the two sides share faces. `Total` when every face use of the second side has its partner
     /// on the first and none of the first is left over, so also for two empty sides.
@@ -159,10 +162,19 @@ public:
     void destroy();
 
 private:
+    friend class Boundary;
     friend class Model;
     friend class Physics;
     friend class PhysicsSerialiser;
     friend class Registry;
+    friend class Settings;
+
+    struct PeriodicValues {
+        std::array<double, 3> offset = {1, 0, 0};
+        double angle = 0;
+        std::array<double, 3> origin = {0, 0, 0};
+        std::array<double, 3> direction = {1, 0, 0};
+    };
 
     static int s_lastUsedId;
 
@@ -175,6 +187,14 @@ private:
     InterfaceRecord serialise(const PhysicsSerialiser& serialiser) const;
     static Interface* restore(const PhysicsSerialiser& serialiser, const InterfaceRecord& record);
 
+    const PeriodicValues& periodic() const;
+    PeriodicValues& periodicToChange();
+
+    /// The patch of a boundary for this interface, or null.
+    BoundaryPatch* patchOf(const Boundary* boundary) const;
+
+    /// Takes a new patch of a boundary on a side, and answers the one that it had.
+    BoundaryPatch* exchangePatch(BoundaryPatch* patch);
     void rebind(const std::array<Boundary*, 2>& sides);
     void leaveBoundaries();
     bool hasEnded() const { return m_interface == nullptr; }
@@ -183,18 +203,16 @@ private:
     InterfaceType m_type;
     Periodicity m_periodicity = Periodicity::NonPeriodic;
     MeshConnectivity m_meshConnectivity = MeshConnectivity::Automatic;
-    Link<Model> m_model;
+    Model* m_model; // that has the interface among its members, or null
     gtm::Interface* m_interface;
     Physics* const m_physics;
-    std::array<Boundary*, 2> m_boundaries; // a boundary ends its interfaces before it ends
+    std::array<Boundary*, 2> m_boundaries;                        // a boundary ends its interfaces before it ends
+    std::array<BoundaryPatch*, 2> m_patches = {nullptr, nullptr}; // theirs; one twice when they are one boundary
     bool m_isMapped = false;
     bool m_isStatic = false;
     bool m_isMeshValid = false;
-    std::array<double, 3> m_offset = {1, 0, 0};
-    double m_angle = 0;
-    std::array<double, 3> m_origin = {0, 0, 0};
-    std::array<double, 3> m_direction = {1, 0, 0};
-    Place<Interface> m_place{this};
+    std::unique_ptr<PeriodicValues> m_periodic; // null until some are given: few interfaces are periodic
+    Brood<Settings, OfSubject> m_settings;      // all that were made for the interface and live
 };
 
 } // namespace physics

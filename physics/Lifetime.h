@@ -2,6 +2,7 @@
 
 #include "physics/NodePool.h"
 #include "physics/NonCopyable.h"
+#include "physics/SortByKey.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -15,10 +16,12 @@
 
 // How the objects of a set-up point at each other without ever pointing at something that ended.
 //
-// Every pointer that does not own its target is either a `Link`, which answers null once the target
-// has ended, or an entry of an `Index`, which vanishes with it. Both are `References`: each object
-// knows the references to it and ends them when it ends, without a search. What owns an object is said
-// in the comment of its class; that something has been taken out of every index never frees it.
+// A pointer that does not own its target is a `Link`, which answers null once the target has ended, or an entry of an
+// `Index`, which vanishes with it. Both are `References`: each object knows the references to it and ends them when
+// it ends, without a search. Or owner and owned know each other: an object leaves the `Brood` of its owner, has the
+// registry forget it in its `KeyTables`, and settings lose the object for which they were made, each when it
+// ends. What owns an object is said in the comment of its class; that something has been taken out of every index
+// never frees it.
 //
 // A host that keeps a pointer for longer than it can know the object to live, as a binding of another language
 // does, holds a `Link` too. It ends before the library is unloaded, and is used in the thread of the set-up.
@@ -115,30 +118,35 @@ bool precedes(const T* left, const T* right)
     return left->m_serial < right->m_serial;
 }
 
-/// Sorts elements by the objects that `objectOf` gives for them, in the order of `precedes`. The ids are laid side
-/// by side first, so that sorting does not go back to the objects.
+/// Sorts elements by the objects that `objectOf` gives for them, in the order of `precedes`.
 template <class Element, class ObjectOf>
 void sortByIdOf(std::vector<Element>& elements, ObjectOf objectOf)
 {
+    const auto keyOf = [](const auto* object) {
+        return object == nullptr ? std::numeric_limits<std::int64_t>::min() : std::int64_t(object->id());
+    };
     const auto comesBefore = [&](const Element& left, const Element& right) {
         return precedes(objectOf(left), objectOf(right));
     };
-    if (std::is_sorted(elements.begin(), elements.end(), comesBefore))
-        return;
-    struct Keyed {
-        std::int64_t id;
-        Element element;
-    };
-    std::vector<Keyed> keyed;
+    std::vector<Keyed<Element>> keyed;
     keyed.reserve(elements.size());
+    bool isAscending = true;
     for (const Element& element : elements) {
-        const auto* object = objectOf(element);
-        keyed.push_back({object == nullptr ? std::numeric_limits<std::int64_t>::min() : object->id(), element});
+        const std::int64_t key = keyOf(objectOf(element));
+        isAscending = isAscending && (keyed.empty() || keyed.back().key < key);
+        keyed.push_back({key, element});
     }
-    std::sort(keyed.begin(), keyed.end(), [&](const Keyed& left, const Keyed& right) {
-        return left.id != right.id ? left.id < right.id : comesBefore(left.element, right.element);
-    });
-    std::transform(keyed.begin(), keyed.end(), elements.begin(), [](const Keyed& each) { return each.element; });
+    if (isAscending)
+        return;
+    sortByKey(keyed);
+    std::transform(keyed.begin(), keyed.end(), elements.begin(), [](const auto& each) { return each.element; });
+    for (std::size_t first = 0, last = 0; first < keyed.size(); first = last) {
+        while (last < keyed.size() && keyed[last].key == keyed[first].key)
+            ++last;
+        const auto at = [&](std::size_t index) { return elements.begin() + static_cast<std::ptrdiff_t>(index); };
+        if (!std::is_sorted(at(first), at(last), comesBefore))
+            std::sort(at(first), at(last), comesBefore);
+    }
 }
 
 /// Sorted as `precedes` has it.
@@ -325,42 +333,49 @@ using Index = BasicIndex<Ordered<Key>, T>;
 template <class Key, class T>
 using HashedIndex = BasicIndex<Hashed<Key>, T>;
 
-/// An index by the address of another object. The key objects outlive their entries.
-template <class K, class T>
-class PointerIndex : public BasicIndex<Hashed<const K*>, T> {
+/// Finds objects by a key that never changes. Owns nothing; an object that ends has itself forgotten first. Each entry
+/// costs less than one of an index, which finds out about ends by itself.
+template <class Key, class T>
+class KeyTable : private NonCopyable {
 public:
-    using BasicIndex<Hashed<const K*>, T>::BasicIndex;
+    /// The pool gives the memory of the entries and outlives the table.
+    explicit KeyTable(NodePool& pool) : m_entries(NodeAllocator<char>(pool)) {}
 
-    /// Keys with their objects, in the order of the keys' ids.
-    std::vector<std::pair<const K*, T*>> entriesById() const
+    /// The object under the key, or null. A key that is a pointer is not dereferenced.
+    T* find(const Key& key) const
     {
-        auto result = this->entries();
-        sortByIdOf(result, [](const auto& entry) { return entry.first; });
-        return result;
+        const auto entry = m_entries.find(key);
+        return entry == m_entries.end() ? nullptr : entry->second;
     }
 
-    /// The objects, in the order of the keys' ids.
-    std::vector<T*> objectsById() const
+    /// Puts the object under its key; another one that was there is no longer found.
+    void put(const Key& key, T* object) { m_entries[key] = object; }
+
+    /// Forgets the key, whichever object it names.
+    void erase(const Key& key) { m_entries.erase(key); }
+
+    /// Forgets the key if it names the object.
+    void forget(const Key& key, const T* object)
     {
-        std::vector<T*> result;
-        for (const auto& entry : entriesById())
-            result.push_back(entry.second);
-        return result;
+        const auto entry = m_entries.find(key);
+        if (entry != m_entries.end() && entry->second == object)
+            m_entries.erase(entry);
     }
+
+    /// Forgets every key.
+    void clear() { m_entries.clear(); }
+
+private:
+    typename Hashed<Key>::template With<T*> m_entries;
 };
 
-template <class T>
-class Brood;
-
-/// The place of an object among all that its owner has to end. It lies within the object and leaves with it.
-template <class T>
-class Place : private NonCopyable {
+/// A link of the ring that a list of objects is; alone it is a ring of its own.
+class RingLink : private NonCopyable {
 public:
-    /// Of the object that it lies within; at first with no owner.
-    explicit Place(T* object) : m_object(object) {}
-    ~Place() { leave(); }
+    RingLink() = default;
+    ~RingLink() { leave(); }
 
-    /// For an object that stays allocated after it ended.
+    /// Leaves its ring.
     void leave()
     {
         m_previous->m_next = m_next;
@@ -369,87 +384,88 @@ public:
         m_next = this;
     }
 
-private:
-    friend class Brood<T>;
+    /// Leaves its ring and enters another, in front of one of its links.
+    void enterBefore(RingLink& other)
+    {
+        leave();
+        m_previous = other.m_previous;
+        m_next = &other;
+        other.m_previous->m_next = this;
+        other.m_previous = this;
+    }
 
-    T* const m_object;
-    Place* m_previous = this; // a ring, alone or with the list itself
-    Place* m_next = this;
+    /// Whether there is no other in the ring.
+    bool isAlone() const { return m_next == this; }
+
+    /// What follows in the ring; itself when it is alone.
+    RingLink* next() const { return m_next; }
+
+private:
+    RingLink* m_previous = this;
+    RingLink* m_next = this;
 };
 
-/// All objects that one owner has to end, listed or not, in the order in which they came. Costs no memory and
-/// no search of its own.
-template <class T>
+/// The place of an object in a list of its owner or holder. A class is derived from it once, with another tag, for
+/// each list that its objects can be in at a time. An object that ends leaves its lists.
+template <class T, class Tag>
+class Place : private RingLink {
+    template <class, class>
+    friend class Brood;
+};
+
+/// Objects in the order in which they came. The list runs through the objects: it costs no memory and no search of
+/// its own.
+template <class T, class Tag>
 class Brood : private NonCopyable {
 public:
     Brood() = default;
     ~Brood()
     {
         while (!isEmpty())
-            m_ring.m_next->leave();
+            m_ring.next()->leave();
     }
 
-    /// Entering twice changes nothing.
-    void enter(Place<T>& place)
-    {
-        if (place.m_next != &place)
-            return;
-        place.m_previous = m_ring.m_previous;
-        place.m_next = &m_ring;
-        m_ring.m_previous->m_next = &place;
-        m_ring.m_previous = &place;
-    }
+    /// Adds an object at the end; it leaves the list of the same tag in which it was.
+    void enter(Place<T, Tag>& place) { place.enterBefore(m_ring); }
+
+    /// Takes the object out of the list of this tag, whichever it is in.
+    static void leave(Place<T, Tag>& place) { place.RingLink::leave(); }
+
+    /// Whether the object is in any list of this tag.
+    static bool isIn(const Place<T, Tag>& place) { return !place.isAlone(); }
 
     /// Whether no object is left.
-    bool isEmpty() const { return m_ring.m_next == &m_ring; }
+    bool isEmpty() const { return m_ring.isAlone(); }
+
+    /// The first object, or null.
+    T* first() const { return objectAt(m_ring.next()); }
+
+    /// The one behind an object that is in this list, or null.
+    T* after(const Place<T, Tag>& place) const { return objectAt(place.next()); }
 
     /// In the order in which they came.
     std::vector<T*> objects() const
     {
         std::vector<T*> result;
-        for (const Place<T>* place = m_ring.m_next; place != &m_ring; place = place->m_next)
-            result.push_back(place->m_object);
+        for (T* object = first(); object != nullptr; object = after(*object))
+            result.push_back(object);
         return result;
-    }
-
-    /// The first object of which the condition is true, or null.
-    template <class Condition>
-    T* firstWith(Condition isTrueOf) const
-    {
-        for (const Place<T>* place = m_ring.m_next; place != &m_ring; place = place->m_next)
-            if (isTrueOf(place->m_object))
-                return place->m_object;
-        return nullptr;
     }
 
 private:
-    Place<T> m_ring{nullptr};
-};
-
-/// A set of objects that owns nothing; an object leaves it when it ends.
-template <class T>
-class Members : private PointerIndex<T, T> {
-public:
-    using PointerIndex<T, T>::PointerIndex;
-    using PointerIndex<T, T>::contains;
-    using PointerIndex<T, T>::erase;
-    using PointerIndex<T, T>::isEmpty;
-    using PointerIndex<T, T>::objects; // in no particular order
-    using PointerIndex<T, T>::size;
-
-    /// Adds an object; one that is a member stays so.
-    void insert(T* object) { this->put(object, object); }
-
-    /// The member at this address, or null. The address is not dereferenced.
-    T* find(const T* object) const { return PointerIndex<T, T>::find(object); }
-
-    /// In the order of ids.
-    std::vector<T*> byId() const
+    T* objectAt(RingLink* link) const
     {
-        std::vector<T*> result = this->objects();
-        sortById(result);
-        return result;
+        return link == &m_ring ? nullptr : static_cast<T*>(static_cast<Place<T, Tag>*>(link));
     }
+
+    RingLink m_ring;
 };
+
+// The tags of these lists, after who keeps them.
+struct OfSetUp;
+struct OfModel;
+struct OfVolume;
+struct OfBoundary;
+struct OfSubject; // what settings were made for
 
 } // namespace physics

@@ -9,6 +9,8 @@
 #include "physics/Settings.h"
 #include "physics/Volume.h"
 
+#include <unordered_set>
+
 namespace physics {
 namespace {
 
@@ -17,22 +19,37 @@ void append(std::vector<Settings*>& result, const std::vector<Settings*>& more)
     result.insert(result.end(), more.begin(), more.end());
 }
 
+template <class T>
+std::vector<T*> sortedMembers(const Brood<T, OfModel>& members)
+{
+    std::vector<T*> result = members.objects();
+    sortById(result);
+    return result;
+}
+
 } // namespace
 
 int Model::s_lastUsedId = 0;
 
-Model::Model(Physics* physics, int id)
-    : m_id(id),
-      m_physics(physics),
-      m_volumes(physics->registry().nodes),
-      m_boundaries(physics->registry().nodes),
-      m_interfaces(physics->registry().nodes),
-      m_volumeSettings(physics->registry().nodes),
-      m_internalSettings(physics->registry().nodes),
-      m_interfaceSettings(physics->registry().nodes)
-{}
+Model::Model(Physics* physics, int id) : m_id(id), m_physics(physics) {}
 
 Model::Model(Physics* physics) : Model(physics, nextId(s_lastUsedId)) { addDomain(1, DomainType::Geometry, "Default"); }
+
+/// Whoever is left has no model from now on.
+Model::~Model()
+{
+    for (Volume* volume : m_volumes.objects())
+        volume->m_model = nullptr;
+    for (Boundary* boundary : m_boundaries.objects())
+        boundary->m_shellModel = nullptr;
+    for (Interface* interface : m_interfaces.objects())
+        interface->m_model = nullptr;
+    for (const HeldSettings* held :
+         {&m_volumeSettings, &m_internalSettings, &m_patchVolumeSettings, &m_patchShellSettings,
+          &m_patchInterfaceSettings, &m_interfaceSettings, &m_unlistedSettings})
+        for (Settings* settings = held->first(); settings != nullptr; settings = held->after(*settings))
+            settings->m_model = nullptr;
+}
 
 void Model::addDomain(int id, DomainType type, const std::string& name)
 {
@@ -78,32 +95,45 @@ DomainType Model::domainType(int id) const
 
 Settings* Model::settings(const Volume* volume)
 {
-    Volume* member = m_volumes.find(volume);
-    if (member == nullptr)
-        return nullptr;
-    if (Settings* present = m_volumeSettings.find(volume))
-        return present;
-    return keep(m_volumeSettings, volume, new (m_physics->registry().nodes) Settings(this, member, false));
+    return settingsOf(m_physics->registry().volumesByAddress.find(volume), TopologyType::Volume);
 }
 
 Settings* Model::internalSettings(const Volume* volume)
 {
-    Volume* member = m_volumes.find(volume);
-    if (member == nullptr)
-        return nullptr;
-    if (Settings* present = m_internalSettings.find(volume))
-        return present;
-    return keep(m_internalSettings, volume, new (m_physics->registry().nodes) Settings(this, member, true));
+    return settingsOf(m_physics->registry().volumesByAddress.find(volume), TopologyType::Internal);
 }
 
 Settings* Model::settings(const Interface* interface)
 {
-    Interface* member = m_interfaces.find(interface);
-    if (member == nullptr)
+    return settingsOf(m_physics->registry().interfacesByAddress.find(interface));
+}
+
+Settings* Model::settingsOf(Volume* volume, TopologyType topologyType)
+{
+    if (volume == nullptr || !has(volume))
         return nullptr;
-    if (Settings* present = m_interfaceSettings.find(interface))
-        return present;
-    return keep(m_interfaceSettings, interface, new (m_physics->registry().nodes) Settings(this, member));
+    Settings* present = held(volume, topologyType);
+    return present != nullptr ? present : make(volume, SettingsType::VolumeSettings, topologyType);
+}
+
+Settings* Model::settingsOf(Interface* interface)
+{
+    if (interface == nullptr || !has(interface))
+        return nullptr;
+    Settings* present = held(interface);
+    return present != nullptr ? present : make(interface, SettingsType::InterfaceSettings, TopologyType::Interface);
+}
+
+bool Model::has(const Volume* volume) const { return volume->m_model == this && Brood<Volume, OfModel>::isIn(*volume); }
+
+bool Model::has(const Boundary* boundary) const
+{
+    return boundary->m_shellModel == this && Brood<Boundary, OfModel>::isIn(*boundary);
+}
+
+bool Model::has(const Interface* interface) const
+{
+    return interface->m_model == this && Brood<Interface, OfModel>::isIn(*interface);
 }
 
 Settings* Model::settings(const BoundaryPatch* patch, SettingsType kind)
@@ -112,46 +142,95 @@ Settings* Model::settings(const BoundaryPatch* patch, SettingsType kind)
         return nullptr;
     if (kind == SettingsType::ShellSettings && patch->boundary()->shellModel() == nullptr)
         return nullptr;
-    BoundaryPatch* keyed = patch->boundary()->patch(patch->interface());
-    if (!isPatchKind(kind))
-        return new (m_physics->registry().nodes) Settings(this, keyed, kind);
-    if (Settings* present = patchSettings(patch, kind))
-        return present;
-    auto* settings = new (m_physics->registry().nodes) Settings(this, keyed, kind);
-    adopt(settings);
+    Settings* present = isPatchKind(kind) ? held(patch, kind) : nullptr;
+    return present != nullptr ? present
+                              : make(patch->boundary()->patchFor(patch->interface()), kind, TopologyType::Boundary);
+}
+
+template <class Subject>
+Settings* Model::make(Subject* subject, SettingsType type, TopologyType topologyType)
+{
+    auto* settings = new (m_physics->registry().nodes) Settings(this, type, topologyType);
+    settings->belongTo(subject);
+    hold(settings);
+    m_physics->registry().add(settings);
     return settings;
 }
 
-/// A patch has few settings: one of each kind, unless other models were asked too. It is null for a boundary whose
-/// end was broken off.
-Settings* Model::patchSettings(const BoundaryPatch* patch, SettingsType kind) const
+Settings* Model::held(const Volume* volume, TopologyType topologyType) const
 {
-    if (patch == nullptr)
-        return nullptr;
-    return patch->m_settings.firstWith(
-        [this, kind](const Settings* settings) { return settings->type() == kind && settings->model() == this; });
+    return volume == nullptr ? nullptr : heldOf(volume->m_settings, SettingsType::VolumeSettings, topologyType);
 }
 
-template <class K>
-Settings* Model::keep(PointerIndex<K, Settings>& map, const K* key, Settings* settings)
+Settings* Model::held(const BoundaryPatch* patch, SettingsType type) const
 {
-    map.put(key, settings);
-    return settings;
+    return patch == nullptr ? nullptr : heldOf(patch->m_settings, type, TopologyType::Boundary);
 }
 
-std::vector<Volume*> Model::volumes() const { return m_volumes.byId(); }
-std::vector<Interface*> Model::interfaces() const { return m_interfaces.byId(); }
+Settings* Model::held(const Interface* interface) const
+{
+    return interface == nullptr
+               ? nullptr
+               : heldOf(interface->m_settings, SettingsType::InterfaceSettings, TopologyType::Interface);
+}
+
+/// An object has few settings: one of each kind, unless other models were asked too.
+Settings* Model::heldOf(const Brood<Settings, OfSubject>& ofSubject, SettingsType type, TopologyType topologyType) const
+{
+    for (Settings* each = ofSubject.first(); each != nullptr; each = ofSubject.after(*each))
+        if (each->type() == type && each->topologyType() == topologyType && each->model() == this)
+            return each;
+    return nullptr;
+}
+
+void Model::hold(Settings* settings)
+{
+    settings->m_model = this;
+    listOf(settings->type(), settings->topologyType()).enter(*settings);
+}
+
+Model::HeldSettings& Model::listOf(SettingsType type, TopologyType topologyType)
+{
+    switch (topologyType) {
+    case TopologyType::Volume:
+        return m_volumeSettings;
+    case TopologyType::Internal:
+        return m_internalSettings;
+    case TopologyType::Interface:
+        return m_interfaceSettings;
+    case TopologyType::Boundary:
+        break;
+    }
+    switch (type) {
+    case SettingsType::VolumeSettings:
+        return m_patchVolumeSettings;
+    case SettingsType::ShellSettings:
+        return m_patchShellSettings;
+    case SettingsType::InterfaceSettings:
+        return m_patchInterfaceSettings;
+    }
+    return m_unlistedSettings;
+}
+
+bool Model::isPatchKind(SettingsType kind)
+{
+    return kind == SettingsType::VolumeSettings || kind == SettingsType::ShellSettings ||
+           kind == SettingsType::InterfaceSettings;
+}
+
+std::vector<Volume*> Model::volumes() const { return sortedMembers(m_volumes); }
+std::vector<Interface*> Model::interfaces() const { return sortedMembers(m_interfaces); }
 
 std::vector<Boundary*> Model::boundaries() const
 {
-    std::vector<Boundary*> boundaries = m_boundaries.byId();
-    for (const Volume* volume : volumes())
+    std::vector<Boundary*> boundaries = m_boundaries.objects();
+    for (const Volume* volume = m_volumes.first(); volume != nullptr; volume = m_volumes.after(*volume))
         for (Boundary* boundary : volume->boundaries())
             boundaries.push_back(boundary);
-    for (const Interface* interface : interfaces())
-        for (const Side side : {Side::First, Side::Second})
-            if (Boundary* boundary = interface->boundary(side))
-                boundaries.push_back(boundary);
+    std::unordered_set<Boundary*> ofInterfaces; // one can be in very many
+    for (const Interface* each = m_interfaces.first(); each != nullptr; each = m_interfaces.after(*each))
+        ofInterfaces.insert(each->m_boundaries.begin(), each->m_boundaries.end());
+    boundaries.insert(boundaries.end(), ofInterfaces.begin(), ofInterfaces.end());
     sortOnceById(boundaries);
     return boundaries;
 }
@@ -160,22 +239,26 @@ std::vector<BoundaryPatch*> Model::boundaryPatches() const
 {
     std::vector<BoundaryPatch*> patches;
     for (const Boundary* boundary : boundaries())
-        for (BoundaryPatch* patch : boundary->patches())
-            patches.push_back(patch);
+        boundary->appendPatches(patches);
     sortById(patches);
     return patches;
 }
 
-std::vector<Settings*> Model::volumeSettings() const { return m_volumeSettings.objectsById(); }
-std::vector<Settings*> Model::internalSettings() const { return m_internalSettings.objectsById(); }
-std::vector<Settings*> Model::interfaceSettings() const { return m_interfaceSettings.objectsById(); }
-
-std::vector<Settings*> Model::byPatch(const PatchSettings& kept)
+template <class Subject>
+std::vector<Settings*> Model::sorted(const HeldSettings& held, Subject* (Settings::*subject)() const)
 {
-    std::vector<Settings*> result = kept.objects();
-    sortByIdOf(result, [](const Settings* settings) { return settings->boundaryPatch(); });
+    std::vector<Settings*> result = held.objects();
+    sortByIdOf(result, [subject](const Settings* settings) { return (settings->*subject)(); });
     return result;
 }
+
+std::vector<Settings*> Model::byVolume(const HeldSettings& held) { return sorted(held, &Settings::volume); }
+std::vector<Settings*> Model::byPatch(const HeldSettings& held) { return sorted(held, &Settings::boundaryPatch); }
+std::vector<Settings*> Model::byInterface(const HeldSettings& held) { return sorted(held, &Settings::interface); }
+
+std::vector<Settings*> Model::volumeSettings() const { return byVolume(m_volumeSettings); }
+std::vector<Settings*> Model::internalSettings() const { return byVolume(m_internalSettings); }
+std::vector<Settings*> Model::interfaceSettings() const { return byInterface(m_interfaceSettings); }
 
 std::vector<Settings*> Model::boundaryPatchSettings() const
 {
@@ -201,7 +284,7 @@ std::vector<Settings*> Model::patchSettings(const Boundary* boundary, SettingsTy
     if (boundary == nullptr)
         return result;
     for (const BoundaryPatch* patch : boundary->patches())
-        if (Settings* settings = patchSettings(patch, kind))
+        if (Settings* settings = held(patch, kind))
             result.push_back(settings);
     return result;
 }
@@ -218,33 +301,15 @@ std::vector<Settings*> Model::settings() const
     return result;
 }
 
-void Model::adopt(Settings* settings)
-{
-    switch (settings->topologyType()) {
-    case TopologyType::Volume:
-        m_volumeSettings.put(settings->volume(), settings);
-        break;
-    case TopologyType::Internal:
-        m_internalSettings.put(settings->volume(), settings);
-        break;
-    case TopologyType::Boundary:
-        (this->*patchSettingsOf(settings->type())).enter(settings->m_placeInModel);
-        break;
-    case TopologyType::Interface:
-        m_interfaceSettings.put(settings->interface(), settings);
-        break;
-    }
-}
-
 void Model::add(Volume* volume)
 {
-    m_volumes.insert(volume);
+    m_volumes.enter(*volume);
     for (Boundary* boundary : volume->ownedBoundaries())
         addVolumeBoundary(boundary);
 }
 
-void Model::add(Boundary* boundary) { m_boundaries.insert(boundary); }
-void Model::add(Interface* interface) { m_interfaces.insert(interface); }
+void Model::add(Boundary* boundary) { m_boundaries.enter(*boundary); }
+void Model::add(Interface* interface) { m_interfaces.enter(*interface); }
 
 void Model::addVolumeBoundary(Boundary* boundary)
 {
@@ -252,17 +317,28 @@ void Model::addVolumeBoundary(Boundary* boundary)
         settings(patch, SettingsType::VolumeSettings);
 }
 
-/// The volume's settings are made if they never were, and ended: that draws an id, which the ids of later
-/// settings show. Its internal settings only leave the model.
+/// Its internal settings only leave the model.
 void Model::remove(Volume* volume)
 {
-    if (!m_volumes.contains(volume))
+    if (!has(volume))
         return;
     for (Boundary* boundary : volume->ownedBoundaries())
         removeVolumeBoundary(boundary);
-    delete settings(volume);
-    m_internalSettings.erase(volume);
-    m_volumes.erase(volume);
+    endSettings(held(volume, TopologyType::Volume));
+    if (Settings* internal = held(volume, TopologyType::Internal))
+        m_unlistedSettings.enter(*internal);
+    Brood<Volume, OfModel>::leave(*volume);
+    volume->m_model = nullptr;
+}
+
+/// Settings that never were are made and ended. That draws an id, which the ids of later settings show, and forgets
+/// an older object of the same id.
+void Model::endSettings(const Settings* settings)
+{
+    if (settings != nullptr)
+        delete settings;
+    else
+        m_physics->registry().settings.erase(nextId(Settings::s_lastUsedId));
 }
 
 void Model::removeVolumeBoundary(Boundary* boundary)
@@ -273,117 +349,79 @@ void Model::removeVolumeBoundary(Boundary* boundary)
 
 void Model::remove(Boundary* boundary)
 {
-    if (!m_boundaries.contains(boundary))
+    if (!has(boundary))
         return;
     for (const BoundaryPatch* patch : boundary->patches())
         deleteBoundaryPatchSettings(patch, SettingsType::ShellSettings);
-    m_boundaries.erase(boundary);
+    Brood<Boundary, OfModel>::leave(*boundary);
+    boundary->m_shellModel = nullptr;
 }
 
-/// As with a volume, settings that never were are made and ended.
 void Model::remove(Interface* interface)
 {
-    if (!m_interfaces.contains(interface))
+    if (!has(interface))
         return;
-    for (const BoundaryPatch* patch : patchesOf(interface))
+    for (const BoundaryPatch* patch : interface->m_patches)
         deleteBoundaryPatchSettings(patch, SettingsType::InterfaceSettings);
-    delete settings(interface);
-    m_interfaces.erase(interface);
-}
-
-std::vector<const BoundaryPatch*> Model::patchesOf(const Interface* interface)
-{
-    std::vector<const BoundaryPatch*> patches;
-    for (const Side side : {Side::First, Side::Second})
-        if (const Boundary* boundary = interface->boundary(side))
-            if (const BoundaryPatch* patch = boundary->patch(interface))
-                patches.push_back(patch);
-    sortOnceById(patches);
-    return patches;
+    endSettings(held(interface));
+    Brood<Interface, OfModel>::leave(*interface);
+    interface->m_model = nullptr;
 }
 
 void Model::deleteBoundaryPatchSettings(const BoundaryPatch* patch, SettingsType kind)
 {
     if (isPatchKind(kind))
-        delete patchSettings(patch, kind);
+        delete held(patch, kind);
 }
 
 void Model::move(Volume* volume, Model* target)
 {
     if (target == nullptr || target == this)
         return;
-    if (m_volumes.contains(volume)) {
+    if (has(volume)) {
         for (const Boundary* boundary : volume->m_boundaries.objects())
             for (const BoundaryPatch* patch : boundary->patches())
                 moveSettings(patch, SettingsType::VolumeSettings, target);
-        moveSettings<Volume>(&Model::m_volumeSettings, volume, target);
-        moveSettings<Volume>(&Model::m_internalSettings, volume, target);
-        m_volumes.erase(volume);
+        for (const TopologyType kind : {TopologyType::Volume, TopologyType::Internal})
+            handOver(held(volume, kind), target->held(volume, kind), target);
     }
-    target->m_volumes.insert(volume);
+    target->m_volumes.enter(*volume);
 }
 
 void Model::move(Boundary* boundary, Model* target)
 {
     if (target == nullptr || target == this)
         return;
-    if (m_boundaries.contains(boundary)) {
+    if (has(boundary)) {
         for (const BoundaryPatch* patch : boundary->patches())
             moveSettings(patch, SettingsType::ShellSettings, target);
-        m_boundaries.erase(boundary);
     }
-    target->m_boundaries.insert(boundary);
+    target->m_boundaries.enter(*boundary);
 }
 
 void Model::move(Interface* interface, Model* target)
 {
     if (target == nullptr || target == this)
         return;
-    if (m_interfaces.contains(interface)) {
-        for (const BoundaryPatch* patch : patchesOf(interface))
+    if (has(interface)) {
+        for (const BoundaryPatch* patch : interface->m_patches)
             moveSettings(patch, SettingsType::InterfaceSettings, target);
-        moveSettings<Interface>(&Model::m_interfaceSettings, interface, target);
-        m_interfaces.erase(interface);
+        handOver(held(interface), target->held(interface), target);
     }
-    target->m_interfaces.insert(interface);
+    target->m_interfaces.enter(*interface);
 }
 
-template <class K>
-void Model::moveSettings(PointerIndex<K, Settings> Model::*map, const K* key, Model* target)
+void Model::handOver(Settings* settings, Settings* replaced, Model* target)
 {
-    Settings* settings = (this->*map).find(key);
     if (settings == nullptr)
         return;
-    delete (target->*map).find(key); // what the target was asked to keep for an object not yet its own
-    (target->*map).put(key, settings);
-    (this->*map).erase(key);
-    settings->setModel(target);
+    delete replaced;
+    target->hold(settings);
 }
 
 void Model::moveSettings(const BoundaryPatch* patch, SettingsType kind, Model* target)
 {
-    Settings* settings = patchSettings(patch, kind);
-    if (settings == nullptr)
-        return;
-    delete target->patchSettings(patch, kind);
-    settings->m_placeInModel.leave();
-    settings->setModel(target);
-    target->adopt(settings);
-}
-
-bool Model::isPatchKind(SettingsType kind) { return patchSettingsOf(kind) != nullptr; }
-
-Model::PatchSettings Model::*Model::patchSettingsOf(SettingsType kind)
-{
-    switch (kind) {
-    case SettingsType::VolumeSettings:
-        return &Model::m_patchVolumeSettings;
-    case SettingsType::ShellSettings:
-        return &Model::m_patchShellSettings;
-    case SettingsType::InterfaceSettings:
-        return &Model::m_patchInterfaceSettings;
-    }
-    return nullptr;
+    handOver(held(patch, kind), target->held(patch, kind), target);
 }
 
 void Model::destroy()

@@ -25,7 +25,7 @@ struct ModelRecord;
 ///
 /// Made by `Physics::createModel`; ended by `destroy` or with its `Physics`. It owns its domains only:
 /// members that outlive it have no model, and their settings stay findable by id, thread and zone.
-class PHYSICS_EXPORT Model final : public Referable {
+class PHYSICS_EXPORT Model final : public Referable, public Place<Model, OfSetUp> {
 public:
     /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
@@ -127,19 +127,37 @@ private:
         std::string name;
         std::string symbol;
     };
-    using PatchSettings = Brood<Settings>;
+    using HeldSettings = Brood<Settings, OfModel>;
 
     static int s_lastUsedId;
 
     explicit Model(Physics* physics);
     Model(Physics* physics, int id);
-    ~Model() = default;
+    ~Model();
 
     ModelRecord serialise(const PhysicsSerialiser& serialiser) const;
     static Model* restore(const PhysicsSerialiser& serialiser, const ModelRecord& record);
 
-    /// Takes settings that were restored into the map of their kind.
-    void adopt(Settings* settings);
+    /// Whether a live object is among the members, or the shells.
+    /// @{
+    bool has(const Volume* volume) const;
+    bool has(const Boundary* boundary) const;
+    bool has(const Interface* interface) const;
+    /// @}
+
+    /// The settings of a live member, made at the first request; null for null and for what is no member.
+    /// @{
+    Settings* settingsOf(Volume* volume, TopologyType topologyType);
+    Settings* settingsOf(Interface* interface);
+    /// @}
+
+    /// Makes settings of a new id for an object and holds them.
+    template <class Subject>
+    Settings* make(Subject* subject, SettingsType type, TopologyType topologyType);
+
+    /// Holds settings among those of their kind; those that another model held move.
+    void hold(Settings* settings);
+
     void add(Volume* volume);
     void add(Boundary* boundary);
     void add(Interface* interface);
@@ -152,42 +170,52 @@ private:
     void move(Boundary* boundary, Model* target);
     void move(Interface* interface, Model* target);
 
-    /// The settings of one kind that this model keeps for a patch, or null.
-    Settings* patchSettings(const BoundaryPatch* patch, SettingsType kind) const;
+    /// The settings that this model holds for an object, or null. For null, too: a boundary whose end was broken off
+    /// has no patches.
+    /// @{
+    Settings* held(const Volume* volume, TopologyType topologyType) const;
+    Settings* held(const BoundaryPatch* patch, SettingsType type) const;
+    Settings* held(const Interface* interface) const;
+    Settings* heldOf(const Brood<Settings, OfSubject>& ofSubject, SettingsType type, TopologyType topologyType) const;
+    /// @}
 
-    /// Ends the settings of one kind that this model keeps for a patch, if there are any.
+    /// Ends the settings of one kind that this model holds for a patch, if there are any.
     void deleteBoundaryPatchSettings(const BoundaryPatch* patch, SettingsType kind);
 
-    /// Hands one settings object over to the same map of another model.
-    template <class K>
-    void moveSettings(PointerIndex<K, Settings> Model::*map, const K* key, Model* target);
+    /// Ends the settings of a member that leaves; null when they were never asked for.
+    void endSettings(const Settings* settings);
+
+    /// Hands settings over to another model and ends those that it was asked to keep for the same object before
+    /// that was its own. Either may be null.
+    static void handOver(Settings* settings, Settings* replaced, Model* target);
     void moveSettings(const BoundaryPatch* patch, SettingsType kind, Model* target);
 
-    template <class K>
-    Settings* keep(PointerIndex<K, Settings>& map, const K* key, Settings* settings);
-
-    /// Where the patch settings of a kind are kept, or null for a value outside the enumeration.
-    static PatchSettings Model::*patchSettingsOf(SettingsType kind);
+    /// Where settings of a kind are held; those of a value outside the enumerations belong to no list.
+    HeldSettings& listOf(SettingsType type, TopologyType topologyType);
     static bool isPatchKind(SettingsType kind);
-    static std::vector<Settings*> byPatch(const PatchSettings& kept);
 
-    /// The patches of both sides, each once.
-    static std::vector<const BoundaryPatch*> patchesOf(const Interface* interface);
+    /// By the ids of what they were made for.
+    template <class Subject>
+    static std::vector<Settings*> sorted(const HeldSettings& held, Subject* (Settings::*subject)() const);
+    static std::vector<Settings*> byVolume(const HeldSettings& held);
+    static std::vector<Settings*> byPatch(const HeldSettings& held);
+    static std::vector<Settings*> byInterface(const HeldSettings& held);
+
     std::vector<Settings*> patchSettings(const Boundary* boundary, SettingsType kind) const;
 
     const int m_id;
     Physics* const m_physics;
-    Members<Volume> m_volumes;
-    Members<Boundary> m_boundaries; // those whose shell model this is
-    Members<Interface> m_interfaces;
-    PointerIndex<Volume, Settings> m_volumeSettings;
-    PointerIndex<Volume, Settings> m_internalSettings;
-    PatchSettings m_patchVolumeSettings; // found through the patches, which know them
-    PatchSettings m_patchShellSettings;
-    PatchSettings m_patchInterfaceSettings;
-    PointerIndex<Interface, Settings> m_interfaceSettings;
+    Brood<Volume, OfModel> m_volumes;
+    Brood<Boundary, OfModel> m_boundaries; // those whose shell model this is
+    Brood<Interface, OfModel> m_interfaces;
+    HeldSettings m_volumeSettings;
+    HeldSettings m_internalSettings;
+    HeldSettings m_patchVolumeSettings;
+    HeldSettings m_patchShellSettings;
+    HeldSettings m_patchInterfaceSettings;
+    HeldSettings m_interfaceSettings;
+    HeldSettings m_unlistedSettings; // know the model but are not among its settings
     std::map<int, Domain> m_domains;
-    Place<Model> m_place{this};
 };
 
 } // namespace physics

@@ -23,90 +23,119 @@ namespace physics {
 /// memory goes back when the last node is returned. With the address sanitizer each node is an allocation of
 /// its own, so that the sanitizer sees what becomes of it.
 class NodePool : private NonCopyable {
-public:
-    /// Memory for one node of that many bytes, aligned for any type; not null.
-    void* allocate(std::size_t bytes)
-    {
-        if (!isPooled(bytes))
-            return ::operator new(bytes);
-        Slot& slot = m_slots[slotOf(bytes)];
-        if (slot.returned == nullptr && slot.unused == slot.end)
-            addChunk(slot, (slotOf(bytes) + 1) * granule);
-        ++m_noOfNodes;
-        if (Returned* node = slot.returned) {
-            slot.returned = node->next;
-            return node;
-        }
-        void* node = slot.unused;
-        slot.unused += (slotOf(bytes) + 1) * granule;
-        return node;
-    }
-
-    /// Takes back what `allocate` gave for the same number of bytes.
-    void deallocate(void* node, std::size_t bytes)
-    {
-        if (!isPooled(bytes)) {
-            ::operator delete(node);
-            return;
-        }
-        Slot& slot = m_slots[slotOf(bytes)];
-        slot.returned = new (node) Returned{slot.returned};
-        if (--m_noOfNodes == 0)
-            release();
-    }
-
-private:
-    static constexpr std::size_t granule = alignof(std::max_align_t);
-    static constexpr std::size_t largest = 512;
-
     struct Returned {
         Returned* next;
     };
 
+public:
+    /// Nodes are aligned for types of at most this alignment: pointers and numbers.
+    static constexpr std::size_t alignment = alignof(void*);
+
     /// Nodes of one size.
-    struct Slot {
-        Returned* returned = nullptr;
-        std::byte* unused = nullptr; // from here to `end` nothing has been handed out yet
-        std::byte* end = nullptr;
-        std::size_t nodesInNextChunk = 8;
+    class Shelf {
+    public:
+        /// Memory for one node of that many bytes, which must be of the size of the shelf; not null.
+        void* take(std::size_t bytes)
+        {
+            if (m_nodeBytes == 0)
+                return ::operator new(bytes);
+            if (m_returned == nullptr && m_unused == m_end)
+                addChunk();
+            ++m_pool->m_noOfNodes;
+            if (Returned* node = m_returned) {
+                m_returned = node->next;
+                return node;
+            }
+            void* node = m_unused;
+            m_unused += m_nodeBytes;
+            return node;
+        }
+
+        /// Takes back what `take` gave.
+        void giveBack(void* node)
+        {
+            if (m_nodeBytes == 0) {
+                ::operator delete(node);
+                return;
+            }
+            m_returned = new (node) Returned{m_returned};
+            if (--m_pool->m_noOfNodes == 0)
+                m_pool->release();
+        }
+
+    private:
+        friend class NodePool;
+
+        /// Twice as large as the one before, up to a size at which the system's share in the cost is small.
+        void addChunk()
+        {
+            constexpr std::size_t mostNodes = 4096;
+            const std::size_t bytes = m_nodesInNextChunk * m_nodeBytes;
+            m_pool->m_chunks.push_back(std::unique_ptr<std::byte[]>(new std::byte[bytes]));
+            m_unused = m_pool->m_chunks.back().get();
+            m_end = m_unused + bytes;
+            if (m_nodesInNextChunk < mostNodes)
+                m_nodesInNextChunk *= 2;
+        }
+
+        void empty()
+        {
+            m_returned = nullptr;
+            m_unused = nullptr;
+            m_end = nullptr;
+            m_nodesInNextChunk = nodesInFirstChunk;
+        }
+
+        static constexpr std::size_t nodesInFirstChunk = 8;
+
+        NodePool* m_pool = nullptr;
+        std::size_t m_nodeBytes = 0; // none: each node is an allocation of its own
+        Returned* m_returned = nullptr;
+        std::byte* m_unused = nullptr; // from here to `m_end` nothing has been handed out yet
+        std::byte* m_end = nullptr;
+        std::size_t m_nodesInNextChunk = nodesInFirstChunk;
     };
 
-    static bool isPooled([[maybe_unused]] std::size_t bytes)
+    NodePool()
     {
+        for (std::size_t i = 0; i < m_shelves.size(); ++i) {
+            m_shelves[i].m_pool = this;
+            m_shelves[i].m_nodeBytes = isPooled ? (i + 1) * alignment : 0;
+        }
+    }
+
+    /// Where nodes of that many bytes come from and go to.
+    Shelf& shelf(std::size_t bytes) { return bytes <= largest ? m_shelves[(bytes - 1) / alignment] : m_plain; }
+
+    /// Memory for one node of that many bytes; not null.
+    void* allocate(std::size_t bytes) { return shelf(bytes).take(bytes); }
+
+    /// Takes back what `allocate` gave for the same number of bytes.
+    void deallocate(void* node, std::size_t bytes) { shelf(bytes).giveBack(node); }
+
+private:
 #ifdef PHYSICS_NODE_POOL_IS_PLAIN
-        return false;
+    static constexpr bool isPooled = false;
 #else
-        return bytes <= largest;
+    static constexpr bool isPooled = true;
 #endif
-    }
-
-    static std::size_t slotOf(std::size_t bytes) { return (bytes - 1) / granule; }
-
-    /// Twice as large as the one before, up to a size at which the system's share in the cost is small.
-    void addChunk(Slot& slot, std::size_t nodeBytes)
-    {
-        constexpr std::size_t mostNodes = 4096;
-        const std::size_t bytes = slot.nodesInNextChunk * nodeBytes;
-        m_chunks.push_back(std::unique_ptr<std::byte[]>(new std::byte[bytes]));
-        slot.unused = m_chunks.back().get();
-        slot.end = slot.unused + bytes;
-        if (slot.nodesInNextChunk < mostNodes)
-            slot.nodesInNextChunk *= 2;
-    }
+    static constexpr std::size_t largest = 512;
 
     void release()
     {
-        m_slots = {};
+        for (Shelf& shelf : m_shelves)
+            shelf.empty();
         m_chunks.clear();
     }
 
-    std::array<Slot, largest / granule> m_slots = {};
+    std::array<Shelf, largest / alignment> m_shelves;
+    Shelf m_plain;
     std::vector<std::unique_ptr<std::byte[]>> m_chunks;
     std::size_t m_noOfNodes = 0;
 };
 
-/// Base of objects that lie in a pool, which must outlive them. The pool is noted in front of each object, so that
-/// `delete` finds it.
+/// Base of objects that lie in a pool, which must outlive them. In front of each object stands where its memory
+/// came from, so that `delete` finds it. Their alignment is at most that of the pool.
 class Pooled {
 protected:
     Pooled() = default;
@@ -115,25 +144,23 @@ protected:
     /// `new (pool) T(...)`; there is no other way.
     static void* operator new(std::size_t bytes, NodePool& pool)
     {
-        void* memory = pool.allocate(sizeof(Note) + bytes);
-        return new (memory) Note{&pool, sizeof(Note) + bytes} + 1;
+        NodePool::Shelf& shelf = pool.shelf(sizeof(Note) + bytes);
+        return new (shelf.take(sizeof(Note) + bytes)) Note{&shelf} + 1;
     }
 
     /// Gives the memory back to the pool that it came from.
     static void operator delete(void* object)
     {
         Note* note = static_cast<Note*>(object) - 1;
-        const Note copy = *note;
-        copy.pool->deallocate(note, copy.bytes);
+        note->shelf->giveBack(note);
     }
 
     /// For a constructor that throws.
     static void operator delete(void* object, NodePool& /*pool*/) { operator delete(object); }
 
 private:
-    struct alignas(std::max_align_t) Note {
-        NodePool* pool;
-        std::size_t bytes;
+    struct Note {
+        NodePool::Shelf* shelf;
     };
 };
 
@@ -152,7 +179,11 @@ public:
     {}
 
     /// Memory for that many objects in a row; none is constructed.
-    T* allocate(std::size_t count) { return static_cast<T*>(m_pool->allocate(count * sizeof(T))); }
+    T* allocate(std::size_t count)
+    {
+        static_assert(alignof(T) <= NodePool::alignment);
+        return static_cast<T*>(m_pool->allocate(count * sizeof(T)));
+    }
 
     /// Takes back what `allocate` gave for the same number.
     void deallocate(T* nodes, std::size_t count) { m_pool->deallocate(nodes, count * sizeof(T)); }

@@ -13,25 +13,25 @@ namespace physics {
 Settings* Peek::settings(const Volume& volume)
 {
     const Model* model = volume.model();
-    return model == nullptr ? nullptr : model->m_volumeSettings.find(&volume);
+    return model == nullptr ? nullptr : model->held(&volume, TopologyType::Volume);
 }
 
 Settings* Peek::internalSettings(const Volume& volume)
 {
     const Model* model = volume.model();
-    return model == nullptr ? nullptr : model->m_internalSettings.find(&volume);
+    return model == nullptr ? nullptr : model->held(&volume, TopologyType::Internal);
 }
 
 Settings* Peek::settings(const Interface& interface)
 {
     const Model* model = interface.model();
-    return model == nullptr ? nullptr : model->m_interfaceSettings.find(&interface);
+    return model == nullptr ? nullptr : model->held(&interface);
 }
 
 Settings* Peek::settings(const BoundaryPatch& patch, SettingsType kind)
 {
     const Model* model = patch.model(kind);
-    return model == nullptr ? nullptr : model->patchSettings(&patch, kind);
+    return model == nullptr ? nullptr : model->held(&patch, kind);
 }
 
 std::vector<int> Peek::zoneIds(const ThreadBundle& bundle) { return bundle.zoneIds(false); }

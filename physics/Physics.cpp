@@ -187,14 +187,7 @@ std::vector<Volume*> Physics::volumes() const { return m_registry->volumesByName
 std::vector<Interface*> Physics::interfaces() const { return m_registry->interfacesByName.objects(); }
 std::vector<Model*> Physics::models() const { return m_registry->models.objects(); }
 
-std::vector<Boundary*> Physics::boundaries() const
-{
-    std::vector<Boundary*> boundaries;
-    for (const Volume* volume : volumes())
-        for (Boundary* boundary : volume->boundaries())
-            boundaries.push_back(boundary);
-    return boundaries;
-}
+std::vector<Boundary*> Physics::boundaries() const { return m_registry->listedBoundaries(); }
 
 std::vector<Region*> Physics::unlistedRegions() const
 {
@@ -203,7 +196,8 @@ std::vector<Region*> Physics::unlistedRegions() const
         unlisted.insert(unlisted.end(), all.begin() + static_cast<std::ptrdiff_t>(listed.size()), all.end());
     };
     add(m_registry->allVolumes(), volumes());
-    add(m_registry->allBoundaries(), boundaries());
+    if (!m_registry->listsAllBoundaries())
+        add(m_registry->allBoundaries(), boundaries());
     add(m_registry->allInterfaces(), interfaces());
     return unlisted;
 }

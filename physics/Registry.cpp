@@ -19,15 +19,16 @@ Registry::~Registry()
 
 void Registry::add(Model* model)
 {
-    m_models.enter(model->m_place);
+    m_models.enter(*model);
     models.put(model->id(), model);
 }
 
 void Registry::add(Volume* volume)
 {
-    m_volumes.enter(volume->m_place);
+    m_volumes.enter(*volume);
     volumesByName.put(volume->name(), volume);
     volumes.put(volume->id(), volume);
+    volumesByAddress.put(volume, volume);
     if (volume->isDefaultVolume())
         defaultVolume = volume;
 }
@@ -40,14 +41,15 @@ void Registry::add(Boundary* boundary)
 
 void Registry::add(Interface* interface)
 {
-    m_interfaces.enter(interface->m_place);
+    m_interfaces.enter(*interface);
     interfacesByName.put(interface->name(), interface);
     interfaces.put(interface->id(), interface);
+    interfacesByAddress.put(interface, interface);
 }
 
 void Registry::add(Settings* object)
 {
-    m_settings.enter(object->m_place);
+    m_settings.enter(*object);
     settings.put(object->id(), object);
     for (ThreadBundle* bundle : object->threadBundles())
         add(bundle);
@@ -71,6 +73,7 @@ void Registry::remove(Volume* volume)
 {
     volumesByName.erase(volume->name());
     volumes.erase(volume->id());
+    volumesByAddress.erase(volume);
     if (defaultVolume.get() == volume)
         defaultVolume = nullptr;
 }
@@ -85,6 +88,7 @@ void Registry::remove(Interface* interface)
 {
     interfacesByName.erase(interface->name());
     interfaces.erase(interface->id());
+    interfacesByAddress.erase(interface);
 }
 
 void Registry::remove(Settings* object)
@@ -107,6 +111,24 @@ void Registry::removeZones(ThreadBundle* bundle)
         bundlesByZoneId.erase(zoneId);
 }
 
+void Registry::forget(const Volume* volume)
+{
+    volumes.forget(volume->id(), volume);
+    volumesByAddress.erase(volume);
+}
+
+void Registry::forget(const Interface* interface)
+{
+    interfaces.forget(interface->id(), interface);
+    interfacesByAddress.erase(interface);
+}
+
+void Registry::forget(const Boundary* boundary)
+{
+    boundaries.forget(boundary->id(), boundary);
+    boundariesByLocation.forget(boundary->boundary(), boundary);
+}
+
 std::vector<Volume*> Registry::allVolumes() const { return listedFirst(volumesByName.objects(), m_volumes.objects()); }
 
 std::vector<Interface*> Registry::allInterfaces() const
@@ -114,12 +136,31 @@ std::vector<Interface*> Registry::allInterfaces() const
     return listedFirst(interfacesByName.objects(), m_interfaces.objects());
 }
 
-std::vector<Boundary*> Registry::allBoundaries() const
+std::vector<Boundary*> Registry::listedBoundaries() const
 {
     std::vector<Boundary*> listed;
     for (const Volume* volume : volumesByName.objects())
         for (Boundary* boundary : volume->boundaries())
             listed.push_back(boundary);
+    return listed;
+}
+
+bool Registry::listsAllBoundaries() const
+{
+    std::size_t noOfVolumes = 0;
+    for (const Volume* volume = m_volumes.first(); volume != nullptr; volume = m_volumes.after(*volume)) {
+        if (!volume->listsAll())
+            return false;
+        ++noOfVolumes;
+    }
+    return volumesByName.size() == noOfVolumes;
+}
+
+std::vector<Boundary*> Registry::allBoundaries() const
+{
+    std::vector<Boundary*> listed = listedBoundaries();
+    if (listsAllBoundaries())
+        return listed;
     std::vector<Boundary*> all;
     for (const Volume* volume : m_volumes.objects())
         for (Boundary* boundary : volume->ownedBoundaries())
@@ -151,8 +192,10 @@ void Registry::forgetAll()
     volumesByName.clear();
     interfacesByName.clear();
     volumes.clear();
+    volumesByAddress.clear();
     boundaries.clear();
     interfaces.clear();
+    interfacesByAddress.clear();
     settings.clear();
     bundlesByThreadId.clear();
     bundlesByZoneId.clear();

@@ -49,6 +49,17 @@ public:
     void remove(ThreadBundle* bundle);
     void removeZones(ThreadBundle* bundle);
 
+    // Taking out of the tables, of what is about to end; the other indexes find out about ends by themselves.
+    void forget(const Volume* volume);
+    void forget(const Boundary* boundary);
+    void forget(const Interface* interface);
+
+    /// In the order of the lists: volume by volume.
+    std::vector<Boundary*> listedBoundaries() const;
+
+    /// Whether the lists of boundaries have lost none.
+    bool listsAllBoundaries() const;
+
     // All live objects: the listed ones in the order of the lists, then those that an index has lost.
     std::vector<Volume*> allVolumes() const;
     std::vector<Boundary*> allBoundaries() const;
@@ -72,13 +83,15 @@ public:
     Index<std::string, Volume> volumesByName{nodes};
     Index<std::string, Interface> interfacesByName{nodes};
     Index<int, Model> models{nodes};
-    HashedIndex<int, Volume> volumes{nodes};
-    HashedIndex<int, Boundary> boundaries{nodes};
-    HashedIndex<int, Interface> interfaces{nodes};
-    HashedIndex<int, Settings> settings{nodes};
+    KeyTable<int, Volume> volumes{nodes};
+    KeyTable<int, Boundary> boundaries{nodes};
+    KeyTable<int, Interface> interfaces{nodes};
+    KeyTable<int, Settings> settings{nodes};
     HashedIndex<int, ThreadBundle> bundlesByThreadId{nodes};
     HashedIndex<int, ThreadBundle> bundlesByZoneId{nodes};
-    PointerIndex<gtm::Boundary, Boundary> boundariesByLocation{nodes};
+    KeyTable<const Volume*, Volume> volumesByAddress{nodes};
+    KeyTable<const Interface*, Interface> interfacesByAddress{nodes};
+    KeyTable<const gtm::Boundary*, Boundary> boundariesByLocation{nodes};
     Link<Volume> defaultVolume;
     ActivationGroups activationGroups;
 
@@ -87,10 +100,10 @@ private:
     void forgetAll();
 
     // All live objects that are owned here; volumes own their boundaries, settings their bundles.
-    Brood<Model> m_models;
-    Brood<Volume> m_volumes;
-    Brood<Interface> m_interfaces;
-    Brood<Settings> m_settings;
+    Brood<Model, OfSetUp> m_models;
+    Brood<Volume, OfSetUp> m_volumes;
+    Brood<Interface, OfSetUp> m_interfaces;
+    Brood<Settings, OfSetUp> m_settings;
     std::vector<Interface*> m_endedInterfaces;
 };
 

@@ -16,39 +16,12 @@ namespace physics {
 
 int Settings::s_lastUsedId = 0;
 
-Settings::Settings(int id, Model* model, SettingsType type, TopologyType topologyType, Volume* volume,
-                   BoundaryPatch* patch, Interface* interface)
-    : m_id(id),
-      m_physics(model->physics()),
-      m_model(model),
-      m_type(type),
-      m_volume(this, volume),
-      m_boundaryPatch(patch),
-      m_interface(this, interface),
-      m_topologyType(topologyType)
-{
-    if (patch != nullptr)
-        patch->m_settings.enter(m_placeInPatch);
-}
-
-Settings::Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
-                   Interface* interface)
-    : Settings(nextId(s_lastUsedId), model, type, topologyType, volume, patch, interface)
-{
-    m_physics->registry().add(this);
-}
-
-Settings::Settings(Model* model, Volume* volume, bool internal)
-    : Settings(model, SettingsType::VolumeSettings, internal ? TopologyType::Internal : TopologyType::Volume, volume,
-               nullptr, nullptr)
+Settings::Settings(int id, Model* model, SettingsType type, TopologyType topologyType)
+    : m_id(id), m_type(type), m_topologyType(topologyType), m_physics(model->physics()), m_model(model)
 {}
 
-Settings::Settings(Model* model, BoundaryPatch* patch, SettingsType type)
-    : Settings(model, type, TopologyType::Boundary, nullptr, patch, nullptr)
-{}
-
-Settings::Settings(Model* model, Interface* interface)
-    : Settings(model, SettingsType::InterfaceSettings, TopologyType::Interface, nullptr, nullptr, interface)
+Settings::Settings(Model* model, SettingsType type, TopologyType topologyType)
+    : Settings(nextId(s_lastUsedId), model, type, topologyType)
 {}
 
 Settings::~Settings()
@@ -61,53 +34,90 @@ Settings::~Settings()
         delete bundle;
 }
 
-void Settings::subjectEnded()
+void Settings::belongTo(Volume* volume)
 {
-    if (!m_model && m_topologyType != TopologyType::Internal)
-        delete this;
+    m_subject = volume;
+    volume->m_settings.enter(*this);
 }
 
-Model* Settings::model() const { return m_model.get(); }
-void Settings::setModel(Model* model) { m_model = model; }
-BoundaryPatch* Settings::boundaryPatch() const { return m_boundaryPatch.get(); }
-Boundary* Settings::boundary() const { return m_boundaryPatch ? m_boundaryPatch->boundary() : nullptr; }
+void Settings::belongTo(BoundaryPatch* patch)
+{
+    m_subject = patch;
+    patch->m_settings.enter(*this);
+}
+
+void Settings::belongTo(Interface* interface)
+{
+    m_subject = interface;
+    interface->m_settings.enter(*this);
+}
+
+/// What is left by then has lost its model, but for internal settings, which stay until the set-up is cleared, and
+/// for settings of patches, which end those of known kinds themselves.
+void Settings::detachAll(const Brood<Settings, OfSubject>& settings)
+{
+    while (Settings* each = settings.first()) {
+        Brood<Settings, OfSubject>::leave(*each);
+        each->m_subject = nullptr;
+        if (each->m_topologyType == TopologyType::Volume || each->m_topologyType == TopologyType::Interface)
+            delete each;
+    }
+}
+
+Model* Settings::model() const { return m_model; }
+Boundary* Settings::boundary() const { return boundaryPatch() == nullptr ? nullptr : boundaryPatch()->boundary(); }
+
+BoundaryPatch* Settings::boundaryPatch() const
+{
+    return m_topologyType == TopologyType::Boundary ? static_cast<BoundaryPatch*>(m_subject) : nullptr;
+}
 
 Volume* Settings::volume() const
 {
-    if (m_boundaryPatch)
-        return m_boundaryPatch->volume();
-    return m_volume.get();
+    if (m_subject == nullptr || m_topologyType == TopologyType::Interface)
+        return nullptr;
+    return m_topologyType == TopologyType::Boundary ? boundaryPatch()->volume() : static_cast<Volume*>(m_subject);
 }
 
 Interface* Settings::interface() const
 {
-    if (m_boundaryPatch)
-        return m_boundaryPatch->interface();
-    return m_interface.get();
+    if (m_topologyType == TopologyType::Interface)
+        return static_cast<Interface*>(m_subject);
+    return boundaryPatch() == nullptr ? nullptr : boundaryPatch()->interface();
 }
 
-bool Settings::isDetached() const { return !m_volume && !m_boundaryPatch && !m_interface; }
+bool Settings::isDetached() const { return m_subject == nullptr; }
 
 std::string Settings::name() const
 {
     if (m_topologyType == TopologyType::Internal)
         return "Internal settings";
-    if (m_volume)
-        return m_volume->name();
-    if (m_boundaryPatch)
-        return m_boundaryPatch->name();
-    return m_interface ? m_interface->name() : std::string();
+    if (isDetached())
+        return std::string();
+    switch (m_topologyType) {
+    case TopologyType::Boundary:
+        return boundaryPatch()->name();
+    case TopologyType::Interface:
+        return interface()->name();
+    default:
+        return volume()->name();
+    }
 }
 
 bool Settings::isActive() const
 {
     if (isDetached())
         return false;
-    if (m_topologyType == TopologyType::Internal)
-        return !m_volume->unusedInternalFaces().empty();
-    if (m_volume)
-        return m_volume->isActive();
-    return m_boundaryPatch ? boundary()->isActive() : m_interface->isActive();
+    switch (m_topologyType) {
+    case TopologyType::Internal:
+        return !volume()->unusedInternalFaces().empty();
+    case TopologyType::Boundary:
+        return boundary()->isActive();
+    case TopologyType::Interface:
+        return interface()->isActive();
+    default:
+        return volume()->isActive();
+    }
 }
 
 ThreadBundle* Settings::createThreadBundle(int index, ThreadType type, int threadId, const std::vector<int>& domainIds)

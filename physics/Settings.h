@@ -30,7 +30,10 @@ struct SettingsRecord;
 /// model was destroyed before. Only the internal settings of a volume, and those of a patch that are of
 /// no known kind, stay behind: then all that they pointed at is null, they are inactive, and they are
 /// found by id and thread until `Physics::clear`. It owns its thread bundles.
-class PHYSICS_EXPORT Settings final : public Referable {
+class PHYSICS_EXPORT Settings final : public Referable,
+                                      public Place<Settings, OfSetUp>,
+                                      public Place<Settings, OfModel>,
+                                      public Place<Settings, OfSubject> {
 public:
     /// Drawn from a counter of the class; it never changes.
     int id() const { return m_id; }
@@ -107,27 +110,23 @@ public:
 
 private:
     friend class BoundaryPatch;
+    friend class Interface;
     friend class Model;
     friend class PhysicsSerialiser;
     friend class Registry;
     friend class ThreadBundle;
+    friend class Volume;
 
     static int s_lastUsedId;
 
-    Settings(int id, Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
-             Interface* interface);
-    Settings(Model* model, SettingsType type, TopologyType topologyType, Volume* volume, BoundaryPatch* patch,
-             Interface* interface);
-    Settings(Model* model, Volume* volume, bool internal);
-    Settings(Model* model, BoundaryPatch* patch, SettingsType type);
-    Settings(Model* model, Interface* interface);
+    Settings(int id, Model* model, SettingsType type, TopologyType topologyType);
+    Settings(Model* model, SettingsType type, TopologyType topologyType);
     ~Settings();
 
     SettingsRecord serialise(const PhysicsSerialiser& serialiser) const;
     static Settings* restore(const PhysicsSerialiser& serialiser, const SettingsRecord& record);
 
     Physics* physics() const { return m_physics; }
-    void setModel(Model* model);
 
     /// True when the object that these settings were made for has ended.
     bool isDetached() const;
@@ -135,38 +134,25 @@ private:
     bool isListed(const ThreadBundle* bundle) const;
     void threadIdChanges(const ThreadBundle* bundle, int threadId);
 
-    /// What the settings were made for. A model ends them with a member that leaves it; without a model
-    /// they end here. A patch ends its own.
-    template <class T>
-    class Subject final : private Reference {
-    public:
-        Subject(Settings* settings, T* object) : m_settings(settings) { refer(object); }
+    /// Binds the settings to the object for which they are made.
+    /// @{
+    void belongTo(Volume* volume);
+    void belongTo(BoundaryPatch* patch);
+    void belongTo(Interface* interface);
+    /// @}
 
-        T* get() const { return static_cast<T*>(target()); }
-        T* operator->() const { return get(); }
-        explicit operator bool() const { return target() != nullptr; }
-
-    private:
-        void targetEnded() override { m_settings->subjectEnded(); }
-
-        Settings* const m_settings;
-    };
-    void subjectEnded();
+    /// The object for which all these settings were made has ended. A model has ended those that it held for it.
+    static void detachAll(const Brood<Settings, OfSubject>& settings);
 
     const int m_id;
-    Physics* const m_physics;
-    Link<Model> m_model;
     const SettingsType m_type;
-    Subject<Volume> m_volume;
-    Link<BoundaryPatch> m_boundaryPatch;
-    Subject<Interface> m_interface;
     const TopologyType m_topologyType;
+    Physics* const m_physics;
+    Model* m_model;                                  // which empties its lists when it ends
+    Referable* m_subject = nullptr;                  // a volume, a patch or an interface, as the topology type says
     std::map<int, ThreadBundle*> m_bundles;          // owned
     std::vector<ThreadBundle*> m_replacedBundles;    // owned
     std::set<std::pair<int, int>> m_indexByThreadId; // (thread id, index) of the listed bundles
-    Place<Settings> m_place{this};
-    Place<Settings> m_placeInPatch{this};
-    Place<Settings> m_placeInModel{this}; // of those of patches, among the ones of their kind
 };
 
 } // namespace physics

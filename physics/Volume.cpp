@@ -5,6 +5,7 @@
 #include "physics/Model.h"
 #include "physics/Physics.h"
 #include "physics/Registry.h"
+#include "physics/Settings.h"
 #include "physics/Zones.h"
 
 #include "gtm/LocationModel.h"
@@ -32,12 +33,18 @@ Volume::Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* i
     physics->registry().add(this);
 }
 
+Volume::~Volume()
+{
+    m_physics->registry().forget(this);
+    Settings::detachAll(m_settings);
+}
+
 std::string Volume::name() const { return m_interior->name(); }
 std::string Volume::fullName() const { return name(); }
 State Volume::state() const { return State(static_cast<int>(m_interior->state())); }
 bool Volume::isEmpty() const { return m_interior->bodies().empty(); }
 std::string Volume::rename(const std::string& name) { return m_interior->rename(name); }
-Model* Volume::model() const { return m_model.get(); }
+Model* Volume::model() const { return m_model; }
 Boundary* Volume::defaultBoundary() const { return m_defaultBoundary.get(); }
 
 const gtm::Location* Volume::location() const { return m_interior->location(); }
@@ -61,8 +68,8 @@ std::vector<Volume*> Volume::overlappingVolumes() const
     return volumes;
 }
 
-Settings* Volume::settings() const { return m_model ? m_model->settings(this) : nullptr; }
-Settings* Volume::internalSettings() const { return m_model ? m_model->internalSettings(this) : nullptr; }
+Settings* Volume::settings() const { return m_model != nullptr ? m_model->settings(this) : nullptr; }
+Settings* Volume::internalSettings() const { return m_model != nullptr ? m_model->internalSettings(this) : nullptr; }
 
 BoundaryType Volume::defaultBoundaryType() const { return m_physics->defaultBoundaryType(m_type); }
 std::vector<BoundaryType> Volume::allowedBoundaryTypes() const { return m_physics->allowedBoundaryTypes(m_type); }
@@ -122,12 +129,16 @@ Boundary* Volume::constructBoundary(gtm::Boundary* boundary, BoundaryType type, 
 
 std::vector<Boundary*> Volume::boundaries() const { return m_boundariesByName.objects(); }
 
-std::vector<Boundary*> Volume::ownedBoundaries() const { return listedFirst(boundaries(), m_boundaries.objects()); }
+std::vector<Boundary*> Volume::ownedBoundaries() const
+{
+    return listsAll() ? boundaries() : listedFirst(boundaries(), m_boundaries.objects());
+}
 
 /// Takes the boundary into the lists of the volume, and no further.
 void Volume::adopt(Boundary* boundary)
 {
-    m_boundaries.enter(boundary->m_place);
+    m_boundaries.enter(*boundary);
+    ++m_noOfBoundaries;
     m_boundariesByName.put(boundary->name(), boundary);
     if (boundary->isDefaultBoundary())
         m_defaultBoundary = boundary;
@@ -136,7 +147,7 @@ void Volume::adopt(Boundary* boundary)
 void Volume::add(Boundary* boundary)
 {
     adopt(boundary);
-    if (m_model)
+    if (m_model != nullptr)
         m_model->addVolumeBoundary(boundary);
     m_physics->registry().add(boundary);
 }
@@ -146,7 +157,7 @@ void Volume::remove(Boundary* boundary)
     m_boundariesByName.erase(boundary->name());
     if (m_defaultBoundary.get() == boundary)
         m_defaultBoundary = nullptr;
-    if (m_model)
+    if (m_model != nullptr)
         m_model->removeVolumeBoundary(boundary);
     m_physics->registry().remove(boundary);
 }
@@ -175,7 +186,7 @@ bool Volume::setModel(Model* model)
 {
     if (model == nullptr || model->physics() != m_physics)
         return false;
-    if (m_model)
+    if (m_model != nullptr)
         m_model->move(this, model);
     else
         model->add(this);
@@ -223,7 +234,7 @@ std::vector<int> Volume::internalZoneIds(bool mayReport) const
 
 void Volume::destroy()
 {
-    if (m_model)
+    if (m_model != nullptr)
         m_model->remove(this);
     m_physics->registry().remove(this);
     const std::vector<Boundary*> boundaries = ownedBoundaries();

@@ -4,6 +4,7 @@
 
 #include "gtm/Interior.h"
 
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -30,7 +31,7 @@ struct VolumeRecord;
 ///
 /// Made by `Physics::createVolume` and `createDefaultVolume`; ended by `destroy`, or by the end or
 /// `clear` of its `Physics`. It owns its boundaries, which end with it, and points at its model.
-class PHYSICS_EXPORT Volume final : public Region {
+class PHYSICS_EXPORT Volume final : public Region, public Place<Volume, OfSetUp>, public Place<Volume, OfModel> {
 public:
     std::string name() const override;
 
@@ -166,13 +167,14 @@ private:
     friend class Physics;
     friend class PhysicsSerialiser;
     friend class Registry;
+    friend class Settings;
     friend class ThreadBundle;
 
     static int s_lastUsedId;
 
     Volume(Physics* physics, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
     Volume(Physics* physics, int id, VolumeType type, Model* model, gtm::Interior* interior, bool isDefault);
-    ~Volume() = default;
+    ~Volume();
 
     VolumeRecord serialise(const PhysicsSerialiser& serialiser) const;
     static Volume* restore(const PhysicsSerialiser& serialiser, const VolumeRecord& record);
@@ -187,20 +189,25 @@ private:
     Boundary* constructBoundary(gtm::Boundary* boundary, BoundaryType type, const std::string* defaultName);
 
     /// The listed boundaries, then those that an equal name took out of the list, by id.
+    /// All boundaries: those of `boundaries`, then those that it has lost because another has their name.
     std::vector<Boundary*> ownedBoundaries() const;
+
+    /// Whether `boundaries` has lost none.
+    bool listsAll() const { return m_boundariesByName.size() == m_noOfBoundaries; }
     std::vector<int> internalZoneIds(bool mayReport) const;
 
     const int m_id;
     VolumeType m_type;
-    Link<Model> m_model;
+    Model* m_model; // that has the volume among its members, or null
     int m_activationGroup = -1;
     gtm::Interior* m_interior;
     const bool m_isDefault;
     Physics* const m_physics;
     Link<Boundary> m_defaultBoundary;
     Index<std::string, Boundary> m_boundariesByName;
-    Brood<Boundary> m_boundaries; // all that the volume owns
-    Place<Volume> m_place{this};
+    Brood<Boundary, OfVolume> m_boundaries; // all that the volume owns
+    std::size_t m_noOfBoundaries = 0;       // of them
+    Brood<Settings, OfSubject> m_settings;  // all that were made for the volume and live
 };
 
 } // namespace physics

@@ -43,12 +43,13 @@ std::vector<Physics::Complaint> Examination::complaints(const Physics& physics)
 {
     std::vector<Physics::Complaint> complaints;
     std::vector<Physics::Complaint> ofBoundaries;
-    add(complaints, nullptr, linesOf(physics));
     for (const Volume* volume : physics.volumes()) {
         std::vector<std::string> lines = ownLinesOf(*volume);
         const std::size_t noOfFaultyBefore = ofBoundaries.size();
-        for (const Boundary* boundary : volume->boundaries())
+        for (const Boundary* boundary : volume->boundaries()) {
+            lookAt(*boundary);
             add(ofBoundaries, boundary, linesOf(*boundary));
+        }
         if (ofBoundaries.size() > noOfFaultyBefore)
             lines.emplace_back(boundaryHasError);
         add(complaints, volume, std::move(lines));
@@ -56,14 +57,29 @@ std::vector<Physics::Complaint> Examination::complaints(const Physics& physics)
     append(complaints, std::move(ofBoundaries));
     for (const Interface* interface : physics.interfaces())
         add(complaints, interface, linesOf(*interface));
+    if (std::vector<std::string> ofAll = conclusions(); !ofAll.empty())
+        complaints.insert(complaints.begin(), {nullptr, std::move(ofAll)});
     return complaints;
 }
 
 std::vector<std::string> Examination::linesOf(const Physics& physics)
 {
+    for (const Boundary* boundary : physics.boundaries())
+        lookAt(*boundary);
+    return conclusions();
+}
+
+void Examination::lookAt(const Boundary& boundary)
+{
+    for (const auto& rule : m_rules)
+        rule->lookAt(&boundary, m_ignoreWarnings);
+}
+
+std::vector<std::string> Examination::conclusions()
+{
     std::vector<std::string> lines;
     for (const auto& rule : m_rules)
-        append(lines, rule->checkPhysics(&physics, m_ignoreWarnings));
+        append(lines, rule->conclude());
     return lines;
 }
 

@@ -30,6 +30,8 @@ public:
     std::vector<std::string> linesOf(const Interface& interface);
 
 private:
+    void lookAt(const Boundary& boundary);
+    std::vector<std::string> conclusions();
     std::vector<std::string> ownLinesOf(const Volume& volume);
     bool isFaulty(const Boundary& boundary);
 

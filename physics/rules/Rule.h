@@ -24,7 +24,16 @@ public:
     }
     virtual std::vector<std::string> checkBoundary(const Boundary* /*boundary*/, bool /*ignoreWarnings*/) { return {}; }
     virtual std::vector<std::string> checkVolume(const Volume* /*volume*/, bool /*ignoreWarnings*/) { return {}; }
-    virtual std::vector<std::string> checkPhysics(const Physics* /*physics*/, bool /*ignoreWarnings*/) { return {}; }
+
+    /// What the rule says of the set-up as a whole: it looks at each boundary and concludes.
+    std::vector<std::string> checkPhysics(const Physics* physics, bool ignoreWarnings);
+
+    /// The two parts of `checkPhysics`, for who walks over the boundaries for other reasons too. They are looked at in
+    /// the order of `Physics::boundaries`; a conclusion begins anew.
+    /// @{
+    virtual void lookAt(const Boundary* /*boundary*/, bool /*ignoreWarnings*/) {}
+    virtual std::vector<std::string> conclude() { return {}; }
+    /// @}
 };
 
 } // namespace physics

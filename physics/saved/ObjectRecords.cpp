@@ -16,20 +16,14 @@
 namespace physics {
 namespace {
 
-template <class K>
-PairList pairsOf(const PointerIndex<K, Settings>& map)
+/// The ids of what the settings were made for with those of the settings.
+template <class Subject>
+PairList pairsOf(const std::vector<Settings*>& held, Subject* (Settings::*subject)() const)
 {
     PairList pairs;
-    for (const auto& [key, settings] : map.entriesById())
-        pairs.emplace_back(key->id(), settings->id());
-    return pairs;
-}
-
-PairList pairsOf(const std::vector<Settings*>& ofPatches)
-{
-    PairList pairs;
-    for (const Settings* settings : ofPatches)
-        pairs.emplace_back(settings->boundaryPatch()->id(), settings->id());
+    pairs.reserve(held.size());
+    for (const Settings* settings : held)
+        pairs.emplace_back((settings->*subject)()->id(), settings->id());
     return pairs;
 }
 
@@ -42,12 +36,12 @@ ModelRecord Model::serialise(const PhysicsSerialiser& /*serialiser*/) const
     record.volumes = idsOf(m_volumes.objects());
     record.boundaries = idsOf(m_boundaries.objects());
     record.interfaces = idsOf(m_interfaces.objects());
-    record.settings = {pairsOf(m_volumeSettings),
-                       pairsOf(m_internalSettings),
-                       pairsOf(byPatch(m_patchVolumeSettings)),
-                       pairsOf(byPatch(m_patchShellSettings)),
-                       pairsOf(byPatch(m_patchInterfaceSettings)),
-                       pairsOf(m_interfaceSettings)};
+    record.settings = {pairsOf(byVolume(m_volumeSettings), &Settings::volume),
+                       pairsOf(byVolume(m_internalSettings), &Settings::volume),
+                       pairsOf(byPatch(m_patchVolumeSettings), &Settings::boundaryPatch),
+                       pairsOf(byPatch(m_patchShellSettings), &Settings::boundaryPatch),
+                       pairsOf(byPatch(m_patchInterfaceSettings), &Settings::boundaryPatch),
+                       pairsOf(byInterface(m_interfaceSettings), &Settings::interface)};
     for (const auto& [id, domain] : m_domains)
         record.domains.push_back({id, domain.type, domain.name});
     return record;
@@ -85,7 +79,7 @@ Volume* Volume::restore(const PhysicsSerialiser& serialiser, const VolumeRecord&
         Volume(physics, record.id, record.type, model, serialiser.interior(record.interior), record.isDefault);
     volume->m_activationGroup = record.activationGroup;
     if (model != nullptr)
-        model->m_volumes.insert(volume);
+        model->m_volumes.enter(*volume);
     physics->registry().add(volume);
     return volume;
 }
@@ -111,14 +105,12 @@ BoundaryRecord Boundary::serialise(const PhysicsSerialiser& serialiser) const
 Boundary* Boundary::restore(const PhysicsSerialiser& serialiser, const BoundaryRecord& record)
 {
     Volume* volume = serialiser.volume(record.volume);
-    auto* boundary = new (serialiser.nodes())
-        Boundary(record.id, volume, record.type, serialiser.place(record.place), record.isDefault);
-    boundary->m_ownPatch.reset(new (serialiser.nodes())
-                                   BoundaryPatch(serialiser.patchId(record.id, -1), boundary, nullptr));
+    auto* boundary = new (serialiser.nodes()) Boundary(record.id, serialiser.patchId(record.id, -1), volume,
+                                                       record.type, serialiser.place(record.place), record.isDefault);
     boundary->m_shellType = record.shellType;
     boundary->m_shellModel = serialiser.model(record.shellModel);
-    if (boundary->m_shellModel)
-        boundary->m_shellModel->m_boundaries.insert(boundary);
+    if (boundary->m_shellModel != nullptr)
+        boundary->m_shellModel->m_boundaries.enter(*boundary);
     for (const int tag : record.tags)
         boundary->addTag(BoundaryTag(tag));
     volume->adopt(boundary);
@@ -155,11 +147,11 @@ Interface* Interface::restore(const PhysicsSerialiser& serialiser, const Interfa
     interface->m_isStatic = record.isStatic;
     interface->m_isMeshValid = record.isMeshValid;
     for (Boundary* boundary : interface->m_boundaries)
-        if (boundary->patch(interface) == nullptr) // else it is on both sides
-            boundary->setPatch(interface, new (serialiser.nodes()) BoundaryPatch(
-                                              serialiser.patchId(boundary->id(), record.id), boundary, interface));
+        if (interface->patchOf(boundary) == nullptr) // else it is on both sides
+            boundary->addPatch(new (serialiser.nodes())
+                                   BoundaryPatch(serialiser.patchId(boundary->id(), record.id), boundary, interface));
     if (model != nullptr)
-        model->m_interfaces.insert(interface);
+        model->m_interfaces.enter(*interface);
     physics->registry().add(interface);
     return interface;
 }
@@ -180,9 +172,9 @@ SettingsRecord Settings::serialise(const PhysicsSerialiser& /*serialiser*/) cons
     record.type = m_type;
     record.topologyType = m_topologyType;
     record.model = idOf(model());
-    record.volume = idOf(m_volume.get());
-    record.patch = idOf(m_boundaryPatch.get());
-    record.interface = idOf(m_interface.get());
+    record.volume = boundaryPatch() == nullptr ? idOf(volume()) : -1;
+    record.patch = idOf(boundaryPatch());
+    record.interface = boundaryPatch() == nullptr ? idOf(interface()) : -1;
     for (const auto& entry : m_bundles)
         record.bundles.push_back(entry.second->serialise());
     return record;
@@ -191,16 +183,18 @@ SettingsRecord Settings::serialise(const PhysicsSerialiser& /*serialiser*/) cons
 Settings* Settings::restore(const PhysicsSerialiser& serialiser, const SettingsRecord& record)
 {
     Model* model = serialiser.model(record.model);
-    Volume* volume = serialiser.volume(record.volume);
-    BoundaryPatch* patch = serialiser.patch(record.patch);
-    Interface* interface = serialiser.interface(record.interface);
-    auto* settings =
-        new (serialiser.nodes()) Settings(record.id, model, record.type, record.topologyType, volume, patch, interface);
+    auto* settings = new (serialiser.nodes()) Settings(record.id, model, record.type, record.topologyType);
+    if (Volume* volume = serialiser.volume(record.volume))
+        settings->belongTo(volume);
+    else if (BoundaryPatch* patch = serialiser.patch(record.patch))
+        settings->belongTo(patch);
+    else
+        settings->belongTo(serialiser.interface(record.interface));
     for (const BundleRecord& bundle : record.bundles) {
         settings->m_bundles.emplace(bundle.index, ThreadBundle::restore(settings, bundle));
         settings->m_indexByThreadId.emplace(bundle.threadId, bundle.index);
     }
-    model->adopt(settings);
+    model->hold(settings);
     serialiser.physics()->registry().add(settings);
     return settings;
 }

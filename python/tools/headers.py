@@ -52,7 +52,7 @@ class Header:
 
 
 COMMENT = re.compile(r"///?<? ?(.*)")
-CLASS = re.compile(r"(?:class|struct)(?: [A-Z]+_EXPORT)? (\w+)(?: final)?(?: : [\w:, ]+)? \{")
+CLASS = re.compile(r"(?:class|struct)(?: [A-Z]+_EXPORT)? (\w+)(?: final)?(?: : [\w:, <>]+)? \{")
 FUNCTION = re.compile(r"(~?\w+|operator\S+?)\(")
 SKIPPED = re.compile(r"(friend |using |typedef |template <>|#|(class|struct) \w+;|static_assert)")
 

@@ -26,8 +26,8 @@ ALLOWED = {
 }
 
 # Which storey of `physics` a file lives in, by its path without extension; whatever is not named is a reader.
-VOCABULARY = {"Export", "Types", "TypeNames", "NameManager", "TypeManager", "NonCopyable", "Lifetime", "NodePool", "Zones",
-              "CreationFailure", "report/ListWriter"}
+VOCABULARY = {"Export", "Types", "TypeNames", "NameManager", "TypeManager", "NonCopyable", "Lifetime", "NodePool", "SortByKey",
+              "Zones", "CreationFailure", "report/ListWriter"}
 OBJECTS = {"Physics", "Registry", "Region", "Volume", "Boundary", "Interface", "BoundaryPatch", "Model", "Settings",
            "ThreadBundle", "ActivationGroups"}
 

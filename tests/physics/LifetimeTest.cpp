@@ -16,6 +16,7 @@
 #include <numeric>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Things end in every order, and whoever is left knows only what is alive.
@@ -77,6 +78,60 @@ TEST(Lifetime, destroyedModelLeavesItsMembersWithoutModel)
     EXPECT_EQ(settings->model(), nullptr);
     EXPECT_EQ(set.first->settings(), nullptr);
     EXPECT_EQ(set.physics->findSettingsByThreadId(7), settings);
+}
+
+TEST(Lifetime, aPointerToWhatIsGoneIsLookedUpWithoutBeingFollowed)
+{
+    TwoVolumes set;
+    const Interface* goneInterface = nullptr;
+    const Volume* goneVolume = nullptr;
+    {
+        const TwoVolumes other;
+        goneInterface = other.interface;
+        goneVolume = other.first;
+    }
+
+    EXPECT_EQ(set.hot->patch(goneInterface), nullptr);
+    EXPECT_EQ(set.hot->boundarySettings(goneInterface), nullptr);
+    EXPECT_EQ(set.model->settings(goneInterface), nullptr);
+    EXPECT_EQ(set.model->settings(goneVolume), nullptr);
+    EXPECT_EQ(set.model->internalSettings(goneVolume), nullptr);
+}
+
+TEST(Lifetime, aModelMayEndAfterTheEndOfItsMembersWasBrokenOff)
+{
+    TwoVolumes set;
+    set.hot->setShellModel(set.model);
+    set.world.throwOn("name");
+    EXPECT_THROW(set.interface->destroy(), std::runtime_error);
+    set.world.throwOn("name");
+    EXPECT_THROW(set.first->destroy(), std::runtime_error);
+
+    set.model->destroy();
+
+    EXPECT_EQ(set.first->model(), nullptr);
+    EXPECT_EQ(set.first->settings(), nullptr);
+    EXPECT_EQ(set.hot->shellModel(), nullptr);
+    EXPECT_EQ(set.interface->model(), nullptr);
+    EXPECT_EQ(set.interface->settings(), nullptr);
+}
+
+TEST(Lifetime, anInterfaceThatChangesItsSidesLeavesEachBoundaryWithOnePatchOrNone)
+{
+    TwoVolumes set;
+    Boundary* third = set.second->createBoundary("third", std::string("shared@right"));
+    const std::vector<std::pair<Boundary*, Boundary*>> sides = {
+        {set.cold, third}, {third, set.cold},  {third, third},       {set.hot, third},
+        {third, set.hot},  {set.hot, set.hot}, {set.cold, set.cold}, {set.hot, set.cold}};
+    for (const auto& [first, second] : sides) {
+        set.interface->relocate(first, second, false);
+        for (Boundary* boundary : {set.hot, set.cold, third}) {
+            const bool isOnASide = boundary == first || boundary == second;
+            EXPECT_EQ(boundary->noOfInterfaces(), isOnASide ? 1 : 0);
+            EXPECT_EQ(boundary->patches().size(), isOnASide ? 2U : 1U);
+            EXPECT_EQ(boundary->patch(set.interface), isOnASide ? boundary->patches().back() : nullptr);
+        }
+    }
 }
 
 TEST(Lifetime, internalSettingsOutliveTheirVolumeDetached)

@@ -30,7 +30,7 @@ EXCUSED = {
 }
 
 # What lies in public headers for the sake of the library, and shows nothing to its users.
-MECHANISM = {"Export", "Lifetime", "NodePool", "NonCopyable"}
+MECHANISM = {"Export", "Lifetime", "NodePool", "NonCopyable", "SortByKey"}
 
 
 def public_headers():
