@@ -164,6 +164,9 @@ Interior::State judge(const InteriorEntity& interior, Reason* why)
 std::vector<UnresolvedTerm> unresolvedTerms(const SurfacePlacement& placement, const InteriorEntity& interior)
 {
     std::vector<UnresolvedTerm> unresolved = placement.unresolved;
+    if (!placement.dependsOnInterior) {
+        return unresolved; // there is no pattern
+    }
     for (const SurfaceTerm& term : placement.terms) {
         if (term.isPattern && !touches(term, interior)) {
             unresolved.push_back({term.text, namesNothingIn(term.text, interior)});
@@ -183,8 +186,12 @@ Boundary::State judge(const SurfacePlacement& placement, const BoundaryEntity* s
         }
         return State::Unresolvable;
     }
+    // A single term has what the location has: the face uses below answer for it, without a look at the term.
+    const auto isTaken = [&interior](const Candidate& candidate) { return interior.takes(candidate); };
+    const bool isSure =
+        placement.terms.size() == 1 && std::any_of(placement.candidates.begin(), placement.candidates.end(), isTaken);
     for (const SurfaceTerm& term : placement.terms) {
-        if (!touches(term, interior)) {
+        if (!isSure && !touches(term, interior)) {
             return verdict(State::Inconsistent, why, [&] {
                 return quoted(term.text) + " has no face use in the interior " + quoted(interior.name) + ".";
             });

@@ -7,9 +7,11 @@
 #include "physics/Boundary.h"
 #include "physics/Interface.h"
 #include "physics/Physics.h"
+#include "physics/SortByKey.h"
 #include "physics/Volume.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -17,54 +19,36 @@
 namespace physics::apps {
 namespace {
 
-/// Takes from the front of a list, behind those that were taken before, what is about a region.
-template <class T>
-class InOrder {
-public:
-    explicit InOrder(std::vector<T> list) : m_list(std::move(list)) {}
+using LinesOf = std::unordered_map<const Region*, std::vector<std::string>>;
 
-    template <class Take>
-    void takeAbout(const Region* region, const Take& take)
-    {
-        for (; m_next < m_list.size() && m_list[m_next].region == region; ++m_next) {
-            take(m_list[m_next]);
-        }
-    }
-
-private:
-    std::vector<T> m_list;
-    std::size_t m_next = 0;
-};
-
-std::vector<const Region*> allRegions(const Listed& setUp)
+/// What the library says, of what the set-up lists and of the rest.
+LinesOf complaintsAbout(const Listed& setUp, bool ignoreWarnings)
 {
-    std::vector<const Region*> regions = {nullptr};
-    const auto add = [&regions](const auto& more) { regions.insert(regions.end(), more.begin(), more.end()); };
-    add(setUp.volumes);
-    add(setUp.boundaries);
-    add(setUp.interfaces);
-    return regions;
-}
-
-/// Those of the library, which are about what the set-up lists, and those about the rest.
-std::vector<Physics::Complaint> complaintsAbout(const Listed& setUp, bool ignoreWarnings)
-{
-    std::vector<Physics::Complaint> complaints = setUp.physics.complaints(ignoreWarnings);
-    if (setUp.unlisted.empty()) {
-        return complaints;
-    }
-    std::unordered_map<const Region*, std::vector<std::string>> lines;
-    for (Physics::Complaint& complaint : complaints) {
+    LinesOf lines;
+    for (Physics::Complaint& complaint : setUp.physics.complaints(ignoreWarnings)) {
         lines[complaint.region] = std::move(complaint.lines);
     }
     for (const Region* region : setUp.unlisted) {
         lines[region] = region->validate(ignoreWarnings);
     }
-    complaints.clear();
-    for (const Region* region : allRegions(setUp)) {
-        complaints.push_back({region, std::move(lines[region])});
+    return lines;
+}
+
+/// Positions in a list of regions by their ids. Those that were made one after the other lie side by side in memory;
+/// the order of the list, that of names, jumps about in it.
+template <class R>
+std::vector<std::size_t> positionsById(const std::vector<R*>& regions)
+{
+    std::vector<Keyed<std::size_t>> keyed;
+    for (const R* region : regions) {
+        keyed.push_back({region->id(), keyed.size()});
     }
-    return complaints;
+    sortByKey(keyed);
+    std::vector<std::size_t> positions;
+    for (const Keyed<std::size_t>& each : keyed) {
+        positions.push_back(each.element);
+    }
+    return positions;
 }
 
 bool isWarning(const Finding& finding) { return rowOf(finding.kind).severity == Severity::Warning; }
@@ -78,6 +62,93 @@ std::vector<Finding> findingsOf(const std::vector<Problem>& refusals)
     }
     return findings;
 }
+
+/// One check: looks at all regions, and puts what it finds in the order of the set-up.
+class Check {
+public:
+    Check(const Physics& physics, const gtm::bundled::LocationModel& model, bool ignoreWarnings)
+        : m_setUp(physics),
+          m_model(model),
+          m_ignoreWarnings(ignoreWarnings),
+          m_lines(complaintsAbout(m_setUp, ignoreWarnings))
+    {
+        m_examiners.push_back(examinerOfStates(model));
+        m_examiners.push_back(examinerOfNames(m_setUp));
+        m_examiners.push_back(examinerOfRules());
+    }
+
+    CheckReport report(const std::vector<Problem>& refusals)
+    {
+        look(nullptr, m_setUp.physics, findingsOf(refusals));
+        lookAtAll(m_setUp.volumes);
+        lookAtAll(m_setUp.boundaries);
+        lookAtAll(m_setUp.interfaces);
+        CheckReport report;
+        std::sort(m_objects.begin(), m_objects.end(),
+                  [](const Placed& left, const Placed& right) { return left.position < right.position; });
+        for (Placed& each : m_objects) {
+            report.objects.push_back(std::move(each.object));
+        }
+        report.coverage = coverageOf(m_setUp, m_model, std::move(m_ownerships));
+        return report;
+    }
+
+private:
+    struct Placed {
+        std::size_t position;
+        CheckReport::Object object;
+    };
+
+    template <class R>
+    void lookAtAll(const std::vector<R*>& regions)
+    {
+        for (const std::size_t position : positionsById(regions)) {
+            m_position = m_noOfListed + position;
+            look(regions[position], *regions[position], {});
+            noteFaceUses(*regions[position], position);
+        }
+        m_noOfListed += regions.size();
+    }
+
+    template <class Asked>
+    void look(const Region* region, const Asked& asked, std::vector<Finding> findings)
+    {
+        for (const auto& examiner : m_examiners) {
+            std::vector<Finding> more = examiner->about(asked);
+            std::move(more.begin(), more.end(), std::back_inserter(findings));
+        }
+        if (m_ignoreWarnings) {
+            findings.erase(std::remove_if(findings.begin(), findings.end(), isWarning), findings.end());
+        }
+        std::stable_sort(findings.begin(), findings.end(),
+                         [](const Finding& left, const Finding& right) { return left.kind < right.kind; });
+        const auto lines = m_lines.find(region);
+        if (!findings.empty() || lines != m_lines.end()) {
+            m_objects.push_back({m_position, {region, std::move(findings), {}}});
+        }
+        if (lines != m_lines.end()) {
+            m_objects.back().object.lines = std::move(lines->second);
+        }
+    }
+
+    void noteFaceUses(const Region& /*region*/, std::size_t /*position*/) {}
+    void noteFaceUses(const Boundary& boundary, std::size_t position)
+    {
+        for (const gtm::FaceUse* faceUse : boundary.faceUses()) {
+            m_ownerships.push_back({faceUse, position});
+        }
+    }
+
+    const Listed m_setUp;
+    const gtm::bundled::LocationModel& m_model;
+    const bool m_ignoreWarnings;
+    LinesOf m_lines;
+    std::vector<std::unique_ptr<Examiner>> m_examiners;
+    std::vector<Placed> m_objects;
+    std::vector<Ownership> m_ownerships;
+    std::size_t m_position = 0;   ///< of what is looked at, among all
+    std::size_t m_noOfListed = 1; ///< before the present list; the set-up itself is the first of all
+};
 
 } // namespace
 
@@ -103,50 +174,7 @@ std::vector<const Finding*> CheckReport::findings() const
 CheckReport check(const Physics& physics, const gtm::bundled::LocationModel& model,
                   const std::vector<Problem>& refusals, bool ignoreWarnings)
 {
-    CheckReport report;
-    const Listed setUp(physics);
-    // All lists are in the order of the set-up, which begins with what is about no object.
-    InOrder byCase(findingsOf(refusals));
-    InOrder byName(findByName(setUp));
-    InOrder byLibrary(complaintsAbout(setUp, ignoreWarnings));
-    const std::unique_ptr<Examiner> byState = examinerOfStates(model);
-    const std::unique_ptr<Examiner> byRules = examinerOfRules();
-    const auto look = [&](const Region* region, const auto& asked) {
-        CheckReport::Object object{region, {}, {}};
-        const auto take = [&object, ignoreWarnings](Finding& finding) {
-            if (!ignoreWarnings || !isWarning(finding)) {
-                object.findings.push_back(std::move(finding));
-            }
-        };
-        byCase.takeAbout(region, take);
-        for (Examiner* examiner : {byState.get(), byRules.get()}) {
-            std::vector<Finding> findings = examiner->about(asked);
-            std::for_each(findings.begin(), findings.end(), take);
-        }
-        byName.takeAbout(region, take);
-        byLibrary.takeAbout(region, [&object](Physics::Complaint& said) { object.lines = std::move(said.lines); });
-        std::stable_sort(object.findings.begin(), object.findings.end(),
-                         [](const Finding& left, const Finding& right) { return left.kind < right.kind; });
-        if (!object.findings.empty() || !object.lines.empty()) {
-            report.objects.push_back(std::move(object));
-        }
-    };
-    look(nullptr, physics);
-    for (const Volume* volume : setUp.volumes) {
-        look(volume, *volume);
-    }
-    std::vector<Ownership> ownerships;
-    for (const Boundary* boundary : setUp.boundaries) {
-        look(boundary, *boundary);
-        for (const gtm::FaceUse* faceUse : boundary->faceUses()) {
-            ownerships.emplace_back(faceUse, boundary);
-        }
-    }
-    for (const Interface* interface : setUp.interfaces) {
-        look(interface, *interface);
-    }
-    report.coverage = coverageOf(setUp, model, std::move(ownerships));
-    return report;
+    return Check(physics, model, ignoreWarnings).report(refusals);
 }
 
 } // namespace physics::apps

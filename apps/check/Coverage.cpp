@@ -17,7 +17,8 @@ namespace {
 
 bool isBefore(const Ownership& left, const Ownership& right)
 {
-    return std::less<>()(left.first, right.first); // only to find them again: no output is in this order
+    // By address only to find them again: no output is in that order.
+    return left.faceUse != right.faceUse ? std::less<>()(left.faceUse, right.faceUse) : left.boundary < right.boundary;
 }
 
 /// The internal faces of all volumes, to be searched.
@@ -59,11 +60,12 @@ Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& mode
     Coverage coverage;
     coverage.volumes.assign(setUp.volumes.begin(), setUp.volumes.end());
     coverage.boundaries.assign(setUp.boundaries.begin(), setUp.boundaries.end());
-    std::stable_sort(ownerships.begin(), ownerships.end(), isBefore); // the owners of one face use stand together
+    std::sort(ownerships.begin(), ownerships.end(), isBefore); // the owners of one face use stand together
     for (const Ownership& ownership : ownerships) {
-        coverage.owners.push_back(ownership.second);
+        coverage.owners.push_back(setUp.boundaries[ownership.boundary]);
     }
     const std::vector<const gtm::Face*> internal = internalFacesOf(coverage.volumes);
+    auto last = ownerships.cbegin();
     for (gtm::Body* body : model.bodies()) {
         if (setUp.physics.isMasked(body)) {
             coverage.maskedBodies.push_back(body);
@@ -72,11 +74,18 @@ Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& mode
         const std::vector<gtm::FaceUse*> faceUses = model.faceUses(body);
         coverage.bodies.push_back({body, faceUses.size()});
         for (const gtm::FaceUse* faceUse : faceUses) {
-            const auto [first, last] =
-                std::equal_range(ownerships.begin(), ownerships.end(), Ownership(faceUse, nullptr), isBefore);
+            // Often they lie in one order with the ownerships, so that the next ones are the next there.
+            if (last == ownerships.cend() || last->faceUse != faceUse) {
+                last = std::lower_bound(ownerships.cbegin(), ownerships.cend(), Ownership{faceUse, 0}, isBefore);
+            }
+            const auto first = last;
+            while (last != ownerships.cend() && last->faceUse == faceUse) {
+                ++last;
+            }
             const bool isInternal =
+                !internal.empty() && // most often: then the face need not be looked at
                 std::binary_search(internal.begin(), internal.end(), faceUse->face(), std::less<const gtm::Face*>());
-            coverage.faceSides.push_back({faceUse, static_cast<std::size_t>(first - ownerships.begin()),
+            coverage.faceSides.push_back({faceUse, static_cast<std::size_t>(first - ownerships.cbegin()),
                                           static_cast<std::size_t>(last - first), isInternal});
             count(coverage.faceSides.back(), coverage);
         }

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace physics {
@@ -56,10 +55,13 @@ struct Coverage {
 };
 
 /// Which boundary has which face use.
-using Ownership = std::pair<const gtm::FaceUse*, const Boundary*>;
+struct Ownership {
+    const gtm::FaceUse* faceUse;
+    std::size_t boundary; ///< its position among the boundaries of the set-up
+};
 
 /// Cost: that of sorting the face sides. The set-up must lie on `model`, and `ownerships` have all face uses of its
-/// boundaries, in the order of the set-up.
+/// boundaries, in any order.
 Coverage coverageOf(const Listed& setUp, const gtm::bundled::LocationModel& model, std::vector<Ownership> ownerships);
 
 } // namespace physics::apps

@@ -37,22 +37,35 @@ Finding findingAbout(const R& region)
             {}};
 }
 
+class NameExaminer final : public Examiner {
+public:
+    explicit NameExaminer(const Listed& setUp)
+        : m_unlisted(setUp.unlisted.begin(), setUp.unlisted.end()), m_listedByVolume(boundariesBesideUnlisted(setUp))
+    {}
+
+    std::vector<Finding> about(const Physics& /*setUp*/) override { return {}; }
+    std::vector<Finding> about(const Volume& volume) override { return aboutUnlisted(volume); }
+    std::vector<Finding> about(const Interface& interface) override { return aboutUnlisted(interface); }
+
+    /// Not of one of which only the volume is not listed.
+    std::vector<Finding> about(const Boundary& boundary) override
+    {
+        return m_listedByVolume.count(&boundary) > 0 ? std::vector<Finding>() : aboutUnlisted(boundary);
+    }
+
+private:
+    template <class R>
+    std::vector<Finding> aboutUnlisted(const R& region) const
+    {
+        return m_unlisted.count(&region) > 0 ? std::vector<Finding>{findingAbout(region)} : std::vector<Finding>();
+    }
+
+    const std::unordered_set<const Region*> m_unlisted;
+    const std::unordered_set<const Region*> m_listedByVolume;
+};
+
 } // namespace
 
-std::vector<Finding> findByName(const Listed& setUp)
-{
-    const std::unordered_set<const Region*> listedByVolume = boundariesBesideUnlisted(setUp);
-    std::vector<Finding> findings;
-    for (const Region* region : setUp.unlisted) {
-        if (const auto* volume = dynamic_cast<const Volume*>(region)) {
-            findings.push_back(findingAbout(*volume));
-        } else if (const auto* interface = dynamic_cast<const Interface*>(region)) {
-            findings.push_back(findingAbout(*interface));
-        } else if (listedByVolume.count(region) == 0) { // else only its volume is not listed
-            findings.push_back(findingAbout(static_cast<const Boundary&>(*region)));
-        }
-    }
-    return findings;
-}
+std::unique_ptr<Examiner> examinerOfNames(const Listed& setUp) { return std::make_unique<NameExaminer>(setUp); }
 
 } // namespace physics::apps

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "apps/check/Finding.h"
+#include "apps/check/Examiner.h"
 
-#include <vector>
+#include <memory>
 
 namespace physics::apps {
 
 struct Listed;
 
-/// The objects that the set-up does not list because of their names, in its order.
-std::vector<Finding> findByName(const Listed& setUp);
+/// Finds the objects that the set-up does not list because of their names.
+std::unique_ptr<Examiner> examinerOfNames(const Listed& setUp);
 
 } // namespace physics::apps
