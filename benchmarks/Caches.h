@@ -21,9 +21,11 @@ inline void fillCaches()
 {
     constexpr std::size_t moreThanCached = 64U << 20U; // bytes
     constexpr std::size_t cacheLine = 64;
+    constexpr int noOfPasses = 3; // caches keep what was used often against something that comes by once
     static std::vector<char> other(moreThanCached);
-    for (std::size_t i = 0; i < other.size(); i += cacheLine)
-        ++other[i];
+    for (int pass = 0; pass < noOfPasses; ++pass)
+        for (std::size_t i = 0; i < other.size(); i += cacheLine)
+            ++other[i];
     benchmark::ClobberMemory();
 }
 
