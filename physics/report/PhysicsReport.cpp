@@ -121,19 +121,19 @@ void appendOverview(std::string& text, const Contents& contents)
 
 void Physics::dump(std::ostream& stream) const
 {
+    std::string text; // of one section at a time, because a report may be long
+    const auto write = [&stream, &text](const auto append, const auto& what) {
+        append(text, what);
+        const std::size_t end = text.find_last_not_of('\n') + 1; // a gap looks at the end of what is before it
+        stream.write(text.data(), static_cast<std::streamsize>(end));
+        text.erase(0, end);
+    };
     const Contents contents(*this);
-    std::string text;
-    appendOverview(text, contents);
-    appendTypes(text, m_typeManager);
-    appendModels(text, contents);
-    appendRegions(text, contents);
-    appendAdjacency(text, contents);
-    appendOtherInformation(text, contents);
-    appendFaults(text, contents);
-    appendSettings(text, contents);
-    appendSettingsByObject(text, contents);
-    appendThreads(text, contents);
-    appendMaps(text, contents);
+    write(appendOverview, contents);
+    write(appendTypes, m_typeManager);
+    for (const auto append : {appendModels, appendRegions, appendAdjacency, appendOtherInformation, appendFaults,
+                              appendSettings, appendSettingsByObject, appendThreads, appendMaps})
+        write(append, contents);
     writeOut(stream, text);
 }
 

@@ -3,6 +3,7 @@
 #include "physics/report/Words.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace physics {
@@ -24,71 +25,89 @@ std::size_t widthOfWidestLine(std::string_view text)
     return width;
 }
 
+constexpr std::size_t separator = std::numeric_limits<std::size_t>::max();
+
 } // namespace
 
-Table::Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
+Table::Table(std::vector<Column> columns) : m_columns(std::move(columns))
+{
+    for (const Column& column : m_columns)
+        m_widths.push_back(widthOf(column.rule));
+}
 
 void Table::addHeader()
 {
-    Row titles;
-    Row subtitles;
+    std::vector<std::string> titles;
+    std::vector<std::string> subtitles;
     for (const Column& column : m_columns) {
         titles.push_back(column.title);
         subtitles.push_back(column.subtitle);
     }
-    m_rows.push_back(std::move(titles));
+    addRow(titles);
     if (std::any_of(subtitles.begin(), subtitles.end(), [](const std::string& title) { return !title.empty(); }))
-        m_rows.push_back(std::move(subtitles));
+        addRow(subtitles);
 }
 
-void Table::addSeparator() { m_rows.emplace_back(); }
+void Table::addSeparator() { m_rows.push_back(separator); }
 
-void Table::addRow(std::vector<std::string> cells)
+void Table::addRow(const std::vector<std::string>& cells)
 {
-    cells.resize(m_columns.size());
-    m_rows.push_back(std::move(cells));
+    m_rows.push_back(m_ends.size());
+    for (std::size_t column = 0; column < m_columns.size(); ++column)
+        addCell(column < cells.size() ? std::string_view(cells[column]) : std::string_view(), column);
 }
 
-std::vector<std::size_t> Table::widths() const
+void Table::addCell(std::string_view cell, std::size_t column)
 {
-    std::vector<std::size_t> widths;
-    for (const Column& column : m_columns)
-        widths.push_back(widthOf(column.rule));
-    for (const Row& row : m_rows)
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], widthOfWidestLine(row[i]));
-    return widths;
+    m_widths[column] = std::max(m_widths[column], widthOfWidestLine(cell));
+    m_text += cell;
+    m_ends.push_back(m_text.size());
 }
 
 void Table::appendTo(std::string& text, std::string_view prefix, std::size_t gap) const
 {
-    const std::vector<std::size_t> widths = this->widths();
-    Row separator;
+    std::vector<std::string> rules;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
-        separator.push_back(m_columns[i].rule + std::string(widths[i] - widthOf(m_columns[i].rule), '-'));
+        rules.push_back(m_columns[i].rule + std::string(m_widths[i] - widthOf(m_columns[i].rule), '-'));
 
-    for (const Row& row : m_rows) {
-        const Row& cells = row.empty() ? separator : row;
-        std::vector<std::string_view> rest(cells.begin(), cells.end());
-        do {
-            text += prefix;
-            appendLine(text, rest, widths, gap);
-        } while (std::any_of(rest.begin(), rest.end(), [](std::string_view cell) { return !cell.empty(); }));
+    std::size_t start = 0; // of the next cell
+    for (const std::size_t row : m_rows) {
+        if (row == separator) {
+            appendRow(text, {rules.begin(), rules.end()}, prefix, gap);
+            continue;
+        }
+        std::vector<std::string_view> cells;
+        cells.reserve(m_columns.size());
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            const std::size_t end = m_ends[row + i];
+            cells.push_back(std::string_view(m_text).substr(start, end - start));
+            start = end;
+        }
+        appendRow(text, std::move(cells), prefix, gap);
     }
 }
 
+/// In as many lines as the longest cell has.
+void Table::appendRow(std::string& text, std::vector<std::string_view> cells, std::string_view prefix,
+                      std::size_t gap) const
+{
+    do {
+        text += prefix;
+        appendLine(text, cells, gap);
+    } while (std::any_of(cells.begin(), cells.end(), [](std::string_view cell) { return !cell.empty(); }));
+}
+
 /// Takes one line off every cell.
-void Table::appendLine(std::string& text, std::vector<std::string_view>& cells, const std::vector<std::size_t>& widths,
-                       std::size_t gap) const
+void Table::appendLine(std::string& text, std::vector<std::string_view>& cells, std::size_t gap) const
 {
     std::size_t blanks = 0; // in front of the next text
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const std::string_view line = takeLine(cells[i]);
         if (line.empty()) {
-            blanks += widths[i] + gap;
+            blanks += m_widths[i] + gap;
             continue;
         }
-        const std::size_t free = widths[i] - widthOf(line);
+        const std::size_t free = m_widths[i] - widthOf(line);
         const bool isRight = m_columns[i].align == Align::Right;
         text.append(blanks + (isRight ? free : 0), ' ').append(line);
         blanks = (isRight ? 0 : free) + gap;

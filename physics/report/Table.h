@@ -28,21 +28,23 @@ public:
     void addSeparator();
 
     /// Adds a row; missing cells at the end are empty.
-    void addRow(std::vector<std::string> cells);
+    void addRow(const std::vector<std::string>& cells);
 
     /// Appends what was added, each line with the prefix in front, and so many blanks between two columns.
     /// No line ends in blanks of the table.
     void appendTo(std::string& text, std::string_view prefix, std::size_t gap = 2) const;
 
 private:
-    using Row = std::vector<std::string>; // a separator is a row without cells
+    void addCell(std::string_view cell, std::size_t column);
+    void appendRow(std::string& text, std::vector<std::string_view> cells, std::string_view prefix,
+                   std::size_t gap) const;
+    void appendLine(std::string& text, std::vector<std::string_view>& cells, std::size_t gap) const;
 
-    std::vector<std::size_t> widths() const;
-    void appendLine(std::string& text, std::vector<std::string_view>& cells, const std::vector<std::size_t>& widths,
-                    std::size_t gap) const;
-
-    std::vector<Column> m_columns;
-    std::vector<Row> m_rows;
+    const std::vector<Column> m_columns;
+    std::vector<std::size_t> m_widths; // of the columns
+    std::string m_text;                // of all cells, one behind the other: they may be millions
+    std::vector<std::size_t> m_ends;   // of each cell in it
+    std::vector<std::size_t> m_rows;   // the index of the first cell of each row, or `separator`
 };
 
 } // namespace physics
