@@ -311,7 +311,7 @@ struct Ordered {
 
     /// The map for entries of one kind.
     template <class Entry>
-    using With = std::map<K, Entry, std::less<K>, NodeAllocator<std::pair<const K, Entry>>>;
+    using With = PooledMap<K, Entry>;
 };
 
 /// Selects a hashed map, for keys whose order means nothing.

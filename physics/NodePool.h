@@ -4,8 +4,12 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <map>
 #include <memory>
 #include <new>
+#include <set>
+#include <utility>
 #include <vector>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -203,5 +207,13 @@ public:
 private:
     NodePool* m_pool;
 };
+
+/// Ordered containers whose nodes lie in a pool.
+/// @{
+template <class Key>
+using PooledSet = std::set<Key, std::less<Key>, NodeAllocator<Key>>;
+template <class Key, class Value>
+using PooledMap = std::map<Key, Value, std::less<Key>, NodeAllocator<std::pair<const Key, Value>>>;
+/// @}
 
 } // namespace physics

@@ -17,7 +17,13 @@ namespace physics {
 int Settings::s_lastUsedId = 0;
 
 Settings::Settings(int id, Model* model, SettingsType type, TopologyType topologyType)
-    : m_id(id), m_type(type), m_topologyType(topologyType), m_physics(model->physics()), m_model(model)
+    : m_id(id),
+      m_type(type),
+      m_topologyType(topologyType),
+      m_physics(model->physics()),
+      m_model(model),
+      m_bundles(NodeAllocator<char>(m_physics->registry().nodes)),
+      m_indexByThreadId(m_bundles.get_allocator())
 {}
 
 Settings::Settings(Model* model, SettingsType type, TopologyType topologyType)

@@ -5,8 +5,6 @@
 #include "physics/Types.h"
 
 #include <iosfwd>
-#include <map>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -148,11 +146,11 @@ private:
     const SettingsType m_type;
     const TopologyType m_topologyType;
     Physics* const m_physics;
-    Model* m_model;                                  // which empties its lists when it ends
-    Referable* m_subject = nullptr;                  // a volume, a patch or an interface, as the topology type says
-    std::map<int, ThreadBundle*> m_bundles;          // owned
-    std::vector<ThreadBundle*> m_replacedBundles;    // owned
-    std::set<std::pair<int, int>> m_indexByThreadId; // (thread id, index) of the listed bundles
+    Model* m_model;                                   // which empties its lists when it ends
+    Referable* m_subject = nullptr;                   // a volume, a patch or an interface, as the topology type says
+    PooledMap<int, ThreadBundle*> m_bundles;          // owned
+    std::vector<ThreadBundle*> m_replacedBundles;     // owned
+    PooledSet<std::pair<int, int>> m_indexByThreadId; // (thread id, index) of the listed bundles
 };
 
 } // namespace physics

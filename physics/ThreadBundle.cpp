@@ -29,8 +29,9 @@ ThreadBundle::ThreadBundle(Settings* settings, int index, ThreadType type, int t
       m_index(index),
       m_threadType(type),
       m_threadId(threadId),
-      m_domainIds(domainIds.begin(), domainIds.end()),
-      m_zoneIds(zoneIds.begin(), zoneIds.end())
+      m_domainIds(domainIds.begin(), domainIds.end(), NodeAllocator<int>(physics()->registry().nodes)),
+      m_zoneIds(zoneIds.begin(), zoneIds.end(), m_domainIds.get_allocator()),
+      m_threads(m_domainIds.get_allocator())
 {}
 
 ThreadBundle::ThreadBundle(Settings* settings, int index, ThreadType type, int threadId,
@@ -59,7 +60,12 @@ int ThreadBundle::solverThreadType() const { return physics::solverThreadType(m_
 
 bool ThreadBundle::addDomainId(int id) { return m_domainIds.insert(id).second; }
 bool ThreadBundle::removeDomainId(int id) { return m_domainIds.erase(id) > 0; }
-void ThreadBundle::setDomainIds(const std::vector<int>& ids) { m_domainIds = {ids.begin(), ids.end()}; }
+void ThreadBundle::setDomainIds(const std::vector<int>& ids)
+{
+    m_domainIds.clear();
+    m_domainIds.insert(ids.begin(), ids.end());
+}
+
 std::vector<int> ThreadBundle::domainIds() const { return {m_domainIds.begin(), m_domainIds.end()}; }
 
 bool ThreadBundle::setZoneIds(const std::vector<int>& ids)
@@ -71,7 +77,8 @@ bool ThreadBundle::setZoneIds(const std::vector<int>& ids)
             return false;
     }
     registry.removeZones(this);
-    m_zoneIds = {ids.begin(), ids.end()};
+    m_zoneIds.clear();
+    m_zoneIds.insert(ids.begin(), ids.end());
     registry.addZones(this, ids);
     return true;
 }

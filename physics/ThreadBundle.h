@@ -5,8 +5,6 @@
 #include "physics/Types.h"
 
 #include <iosfwd>
-#include <map>
-#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -116,9 +114,9 @@ private:
     const int m_index;
     ThreadType m_threadType;
     int m_threadId;
-    std::set<int> m_domainIds;
-    std::set<int> m_zoneIds;
-    std::map<int, void*> m_threads;
+    PooledSet<int> m_domainIds;
+    PooledSet<int> m_zoneIds;
+    PooledMap<int, void*> m_threads;
 };
 
 } // namespace physics
