@@ -46,7 +46,7 @@ def options(quick, size):
     what prepares it, and fills the caches with something else each time, takes many times as long."""
     repetitions = 3 if quick else {1000: 5, 10000: 5, 100000: 3, 1000000: 1}[size]
     warm_up = ["--benchmark_min_warmup_time=0.001"] if repetitions == 1 else []
-    return [f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.005", *warm_up]
+    return [f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.001", *warm_up]
 
 
 def medians(runs):
