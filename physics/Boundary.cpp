@@ -208,8 +208,7 @@ void Boundary::appendPatches(std::vector<BoundaryPatch*>& result) const
 Settings* Boundary::settings(SettingsType kind, const Interface* interface) const
 {
     const BoundaryPatch* ofInterface = patch(interface);
-    Model* model = ofInterface == nullptr ? nullptr : ofInterface->model(kind);
-    return model == nullptr ? nullptr : model->settings(ofInterface, kind);
+    return ofInterface == nullptr ? nullptr : ofInterface->settings(kind);
 }
 
 Settings* Boundary::boundarySettings(const Interface* interface) const

@@ -26,8 +26,8 @@ void BoundaryPatch::endSettings()
          {SettingsType::VolumeSettings, SettingsType::InterfaceSettings, SettingsType::ShellSettings})
         if (Model* holder = model(kind))
             holder->deleteBoundaryPatchSettings(this, kind);
-    // What other models were asked to keep for this patch. Settings of no known kind are held by no model;
-    // they stay, detached, until the set-up is cleared.
+    // What other models were asked to keep for this patch. Settings of no known kind are in no list of a model; they
+    // stay, detached, until the set-up is cleared.
     for (Settings* settings : m_settings.objects())
         if (Model::isPatchKind(settings->type()))
             delete settings;
@@ -56,10 +56,15 @@ Model* BoundaryPatch::model(SettingsType kind) const
     return nullptr;
 }
 
-Settings* BoundaryPatch::settings(SettingsType kind) const { return m_boundary->settings(kind, m_interface); }
-Settings* BoundaryPatch::boundarySettings() const { return m_boundary->boundarySettings(m_interface); }
-Settings* BoundaryPatch::shellSettings() const { return m_boundary->shellSettings(m_interface); }
-Settings* BoundaryPatch::interfaceSettings() const { return m_boundary->interfaceSettings(m_interface); }
+Settings* BoundaryPatch::settings(SettingsType kind) const
+{
+    Model* holder = model(kind);
+    return holder == nullptr ? nullptr : holder->settings(this, kind);
+}
+
+Settings* BoundaryPatch::boundarySettings() const { return settings(SettingsType::VolumeSettings); }
+Settings* BoundaryPatch::shellSettings() const { return settings(SettingsType::ShellSettings); }
+Settings* BoundaryPatch::interfaceSettings() const { return settings(SettingsType::InterfaceSettings); }
 
 bool BoundaryPatch::isChild() const { return m_boundary->noOfInterfaces() > 0; }
 

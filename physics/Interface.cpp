@@ -74,7 +74,11 @@ Boundary* Interface::otherBoundary(const Boundary* boundary) const
     return boundary == m_boundaries[1] ? m_boundaries[0] : nullptr;
 }
 
-Settings* Interface::settings() const { return m_model != nullptr ? m_model->settings(this) : nullptr; }
+/// Like a pointer member, a constant interface hands out what may be changed.
+Settings* Interface::settings() const
+{
+    return m_model == nullptr ? nullptr : m_model->settingsOf(const_cast<Interface*>(this));
+}
 
 Settings* Interface::boundarySettings(Side side) const
 {

@@ -222,14 +222,8 @@ public:
         return entry == m_entries.end() ? nullptr : entry->second.object();
     }
 
-    /// Whether there is an object under the key.
-    bool contains(const Key& key) const { return m_entries.find(key) != m_entries.end(); }
-
     /// The number of keys; one object may stand under several.
     std::size_t size() const { return m_entries.size(); }
-
-    /// Whether there is no key.
-    bool isEmpty() const { return m_entries.empty(); }
 
     /// Puts the object under the key; whatever was there before is no longer found under it.
     void put(const Key& key, T* object)
@@ -264,16 +258,6 @@ public:
         result.reserve(m_entries.size());
         for (const auto& entry : m_entries)
             result.push_back(entry.second.object());
-        return result;
-    }
-
-    /// Keys with their objects, in the order of the map.
-    std::vector<std::pair<Key, T*>> entries() const
-    {
-        std::vector<std::pair<Key, T*>> result;
-        result.reserve(m_entries.size());
-        for (const auto& entry : m_entries)
-            result.emplace_back(entry.first, entry.second.object());
         return result;
     }
 

@@ -38,12 +38,12 @@ Model::Model(Physics* physics) : Model(physics, nextId(s_lastUsedId)) { addDomai
 /// Whoever is left has no model from now on.
 Model::~Model()
 {
-    for (Volume* volume : m_volumes.objects())
+    for (Volume* volume = m_volumes.first(); volume != nullptr; volume = m_volumes.after(*volume))
         volume->m_model = nullptr;
-    for (Boundary* boundary : m_boundaries.objects())
-        boundary->m_shellModel = nullptr;
-    for (Interface* interface : m_interfaces.objects())
-        interface->m_model = nullptr;
+    for (Boundary* shell = m_boundaries.first(); shell != nullptr; shell = m_boundaries.after(*shell))
+        shell->m_shellModel = nullptr;
+    for (Interface* each = m_interfaces.first(); each != nullptr; each = m_interfaces.after(*each))
+        each->m_model = nullptr;
     for (const HeldSettings* held :
          {&m_volumeSettings, &m_internalSettings, &m_patchVolumeSettings, &m_patchShellSettings,
           &m_patchInterfaceSettings, &m_interfaceSettings, &m_unlistedSettings})
@@ -143,8 +143,7 @@ Settings* Model::settings(const BoundaryPatch* patch, SettingsType kind)
     if (kind == SettingsType::ShellSettings && patch->boundary()->shellModel() == nullptr)
         return nullptr;
     Settings* present = isPatchKind(kind) ? held(patch, kind) : nullptr;
-    return present != nullptr ? present
-                              : make(patch->boundary()->patchFor(patch->interface()), kind, TopologyType::Boundary);
+    return present != nullptr ? present : make(const_cast<BoundaryPatch*>(patch), kind, TopologyType::Boundary);
 }
 
 template <class Subject>
@@ -301,8 +300,11 @@ std::vector<Settings*> Model::settings() const
     return result;
 }
 
+/// Internal settings may be there from before, when the end of the volume was broken off.
 void Model::add(Volume* volume)
 {
+    if (Settings* internal = held(volume, TopologyType::Internal))
+        hold(internal);
     m_volumes.enter(*volume);
     for (Boundary* boundary : volume->ownedBoundaries())
         addVolumeBoundary(boundary);

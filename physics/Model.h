@@ -170,8 +170,7 @@ private:
     void move(Boundary* boundary, Model* target);
     void move(Interface* interface, Model* target);
 
-    /// The settings that this model holds for an object, or null. For null, too: a boundary whose end was broken off
-    /// has no patches.
+    /// The settings that this model holds for an object, or null; also null for null.
     /// @{
     Settings* held(const Volume* volume, TopologyType topologyType) const;
     Settings* held(const BoundaryPatch* patch, SettingsType type) const;

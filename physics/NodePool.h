@@ -2,8 +2,10 @@
 
 #include "physics/NonCopyable.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -33,7 +35,7 @@ class NodePool : private NonCopyable {
 
 public:
     /// Nodes are aligned for types of at most this alignment: pointers and numbers.
-    static constexpr std::size_t alignment = alignof(void*);
+    static constexpr std::size_t alignment = std::max(alignof(void*), alignof(std::uint64_t));
 
     /// Nodes of one size.
     class Shelf {
@@ -163,7 +165,7 @@ protected:
     static void operator delete(void* object, NodePool& /*pool*/) { operator delete(object); }
 
 private:
-    struct Note {
+    struct alignas(NodePool::alignment) Note {
         NodePool::Shelf* shelf;
     };
 };

@@ -253,7 +253,8 @@ public:
     /// Lists the whole set-up for people: counts, validity, models, every object with its settings and
     /// threads, what lies beside what. Nothing is made or printed elsewhere; settings that were not made yet
     /// are left out. The flags, width, fill, precision and locale of the stream neither matter nor change.
-    /// The time is proportional to the length of the report, the judging of validity set apart.
+    /// The time is proportional to the length of the report, the judging of validity set apart. When the location
+    /// model throws, the report ends with the section before.
     void dump(std::ostream& stream) const;
 
     // ---- The whole set-up as one text, with its interiors, boundaries, interfaces and mask. Not kept are

@@ -7,9 +7,13 @@
 #include "physics/ThreadBundle.h"
 #include "physics/Volume.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace physics {
+
+static_assert(std::max({alignof(Model), alignof(Volume), alignof(Boundary), alignof(BoundaryPatch), alignof(Interface),
+                        alignof(Settings), alignof(ThreadBundle)}) <= NodePool::alignment);
 
 Registry::~Registry()
 {
@@ -98,9 +102,15 @@ void Registry::remove(Settings* object)
     settings.erase(object->id());
 }
 
+/// The bundle is ending, which cannot fail. When the location model does not say which zones it inherits, only the
+/// entries that name it go.
 void Registry::remove(ThreadBundle* bundle)
 {
-    removeZones(bundle);
+    try {
+        removeZones(bundle);
+    } catch (...) {
+        // Those entries vanish with the bundle.
+    }
     bundlesByThreadId.erase(bundle->threadId());
 }
 
@@ -183,7 +193,7 @@ void Registry::clear()
     for (Settings* detached : m_settings.objects())
         delete detached;
 
-    // Empty by now: every entry has gone with its object.
+    // Empty by now: tables from the beginning, and every entry of an index has gone with its object.
 }
 
 void Registry::forgetAll()

@@ -31,7 +31,7 @@ public:
     Registry() = default;
     ~Registry();
 
-    // Registering is an insert or overwrite under each key; doing it twice changes nothing.
+    // Registering is an insert or overwrite under each key; doing it twice finds and lists the same.
     void add(Model* model);
     void add(Volume* volume);
     void add(Boundary* boundary);

@@ -26,7 +26,7 @@ struct SettingsRecord;
 ///
 /// Made by the models at the first request; ended with the object that it belongs to, also when its
 /// model was destroyed before. Only the internal settings of a volume, and those of a patch that are of
-/// no known kind, stay behind: then all that they pointed at is null, they are inactive, and they are
+/// no known kind, stay behind: then what they were made for is null, they are inactive, and they are
 /// found by id and thread until `Physics::clear`. It owns its thread bundles.
 class PHYSICS_EXPORT Settings final : public Referable,
                                       public Place<Settings, OfSetUp>,

@@ -68,8 +68,14 @@ std::vector<Volume*> Volume::overlappingVolumes() const
     return volumes;
 }
 
-Settings* Volume::settings() const { return m_model != nullptr ? m_model->settings(this) : nullptr; }
-Settings* Volume::internalSettings() const { return m_model != nullptr ? m_model->internalSettings(this) : nullptr; }
+Settings* Volume::settings() const { return settingsOfKind(TopologyType::Volume); }
+Settings* Volume::internalSettings() const { return settingsOfKind(TopologyType::Internal); }
+
+/// Like a pointer member, a constant volume hands out what may be changed.
+Settings* Volume::settingsOfKind(TopologyType kind) const
+{
+    return m_model == nullptr ? nullptr : m_model->settingsOf(const_cast<Volume*>(this), kind);
+}
 
 BoundaryType Volume::defaultBoundaryType() const { return m_physics->defaultBoundaryType(m_type); }
 std::vector<BoundaryType> Volume::allowedBoundaryTypes() const { return m_physics->allowedBoundaryTypes(m_type); }

@@ -188,8 +188,9 @@ private:
     Boundary* createBoundaryAt(const std::string& name, const Where& where, BoundaryType type);
     Boundary* constructBoundary(gtm::Boundary* boundary, BoundaryType type, const std::string* defaultName);
 
-    /// The listed boundaries, then those that an equal name took out of the list, by id.
-    /// All boundaries: those of `boundaries`, then those that it has lost because another has their name.
+    Settings* settingsOfKind(TopologyType kind) const;
+
+    /// All boundaries: those of `boundaries`, then, by id, those that it has lost because another has their name.
     std::vector<Boundary*> ownedBoundaries() const;
 
     /// Whether `boundaries` has lost none.

@@ -29,7 +29,9 @@ LinesOf complaintsAbout(const Listed& setUp, bool ignoreWarnings)
         lines[complaint.region] = std::move(complaint.lines);
     }
     for (const Region* region : setUp.unlisted) {
-        lines[region] = region->validate(ignoreWarnings);
+        if (std::vector<std::string> said = region->validate(ignoreWarnings); !said.empty()) {
+            lines[region] = std::move(said);
+        }
     }
     return lines;
 }

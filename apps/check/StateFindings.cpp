@@ -100,7 +100,7 @@ private:
     std::vector<Finding> m_findings; ///< about the present region
     std::vector<std::string> m_bodyNames;
     std::vector<std::string> m_surfaceNames;
-    std::size_t m_noOfSearches = 0;
+    std::size_t m_noOfSearches = 0; ///< for near names, in the order in which regions are examined
 };
 
 std::vector<Finding> StateExaminer::about(const Physics& setUp)

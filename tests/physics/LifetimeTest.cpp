@@ -8,6 +8,7 @@
 #include "physics/Volume.h"
 #include "tests/scripted/World.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -114,6 +115,45 @@ TEST(Lifetime, aModelMayEndAfterTheEndOfItsMembersWasBrokenOff)
     EXPECT_EQ(set.hot->shellModel(), nullptr);
     EXPECT_EQ(set.interface->model(), nullptr);
     EXPECT_EQ(set.interface->settings(), nullptr);
+}
+
+TEST(Lifetime, aBoundaryEndsThoughTheLocationModelDoesNotSayWhichZonesItsThreadInherits)
+{
+    TwoVolumes set;
+    Boundary* wall = set.first->createBoundary("wall", std::string("shared@left"));
+    wall->nonOverlappingBoundarySettings()->createThreadBundle(0, ThreadType::Wall, 7, {1});
+    set.world.throwOn("faceUses");
+
+    wall->destroy();
+
+    EXPECT_EQ(set.physics->findThreadBundleByThreadId(7), nullptr);
+    EXPECT_THAT(set.first->boundaries(), testing::ElementsAre(set.hot));
+}
+
+TEST(Lifetime, aVolumeWhoseEndWasBrokenOffHasItsSettingsInTheModelThatItIsPutInto)
+{
+    TwoVolumes set;
+    Settings* internal = set.first->internalSettings();
+    set.world.throwOn("name");
+    EXPECT_THROW(set.first->destroy(), std::runtime_error);
+
+    EXPECT_TRUE(set.first->setModel(set.model));
+
+    EXPECT_EQ(set.first->internalSettings(), internal);
+    EXPECT_THAT(set.model->internalSettings(), testing::ElementsAre(internal));
+    EXPECT_THAT(set.model->volumeSettings(), testing::ElementsAre(set.first->settings()));
+}
+
+TEST(Lifetime, whatAClearThatWasBrokenOffLeftStillAnswersWithItsSettings)
+{
+    TwoVolumes set;
+    set.world.throwOn("destroy");
+    EXPECT_THROW(set.physics->clear(), std::runtime_error);
+
+    EXPECT_NE(set.second->settings(), nullptr);
+    EXPECT_EQ(set.second->settings(), set.second->settings());
+    for (const BoundaryPatch* patch : set.cold->patches())
+        EXPECT_NE(patch->boundarySettings(), nullptr);
 }
 
 TEST(Lifetime, anInterfaceThatChangesItsSidesLeavesEachBoundaryWithOnePatchOrNone)

@@ -105,6 +105,7 @@ bool Boundary::isDefaultBoundary() const { return !scriptedOf(this)->location();
 std::vector<FaceUse*> Boundary::faceUses() const
 {
     const auto* self = scriptedOf(this);
+    self->owner().copy().throwIfAsked("faceUses");
     return self->answers().faceUses ? *self->answers().faceUses : self->resolvedFaceUses();
 }
 

@@ -77,8 +77,8 @@ public:
 
     /// Makes the `nth` call from now of an operation ("createInterior", "createBoundary",
     /// "createInterface", "destroy", "relocate", "remove", "rename", "name", "mask", "unmask",
-    /// "setMaskedBodies", "activateDefaultInterior", "activateDefaultBoundary", "clear") throw
-    /// `std::runtime_error` before it does anything.
+    /// "setMaskedBodies", "activateDefaultInterior", "activateDefaultBoundary", "clear", "faceUses" of a boundary)
+    /// throw `std::runtime_error` before it does anything.
     void throwOn(const std::string& operation, int nth = 1) { m_throwing[operation] = nth; }
     void throwOnNothing() { m_throwing.clear(); }
 

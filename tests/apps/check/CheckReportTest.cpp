@@ -143,6 +143,8 @@ TEST_F(ChangedSetUp, isCheckedToTheEndAlthoughEqualNamesHideSomeOfIt)
 
     EXPECT_EQ(idsOf(report),
               (std::vector<std::string>{"PS018 left", "PS018 left::contact", "PS014 left::in", "PS018 contact"}));
+    for (const CheckReport::Object& object : report.objects)
+        EXPECT_TRUE(!object.findings.empty() || !object.lines.empty()) << object.region->fullName();
     EXPECT_EQ(report.objects.front().region, physics->findVolumeById(hidden));
     EXPECT_EQ(
         report.findings().front()->message,
