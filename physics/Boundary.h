@@ -211,6 +211,7 @@ private:
     void removePatch(BoundaryPatch* patch);
     void endPatches();
     Physics* physics() const;
+
     /// Like `patch`, for an interface that is known to live.
     BoundaryPatch* patchFor(const Interface* live) const;
     void appendPatches(std::vector<BoundaryPatch*>& result) const; // in no particular order

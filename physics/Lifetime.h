@@ -215,7 +215,7 @@ public:
     /// The pool gives the memory of the entries and outlives the index.
     explicit BasicIndex(NodePool& pool) : m_entries(NodeAllocator<char>(pool)) {}
 
-    /// The object under the key, or null. A key that is a pointer is not dereferenced.
+    /// The object under the key, or null.
     T* find(const Key& key) const
     {
         const auto entry = m_entries.find(key);
